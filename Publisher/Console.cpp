@@ -59,7 +59,7 @@ QString TextOf(Problem const& problem)
 
 std::string Output::Styled(Emphasis emphasis, QString const& text) const
 {
-    std::string const plain = text.toStdString();
+    std::string const plain = Printable(text).toStdString();
     return hasColour && emphasis != Emphasis::None ? CodeOf(emphasis) + plain + "\033[0m" : plain;
 }
 
@@ -71,7 +71,15 @@ ExitStatus Console::Refuse(Problem const& problem) const
 
 void Console::Print(QString const& line) const
 {
-    out.stream << line.toStdString() << '\n';
+    out.stream << Printable(line).toStdString() << '\n';
+}
+
+void Console::Print(QStringList const& lines) const
+{
+    for (QString const& line : lines)
+    {
+        Print(line);
+    }
 }
 
 void Console::PrintJson(QJsonObject const& object) const

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <cstdint>
@@ -66,7 +67,7 @@ struct Output
     bool isTerminal = false;
     bool hasColour = false;
 
-    /// \a text for this stream: unchanged, or between the codes of \a emphasis.
+    /// \a text for this stream: printable, and between the codes of \a emphasis if the stream has colour.
     std::string Styled(Emphasis emphasis, QString const& text) const;
 };
 
@@ -80,8 +81,9 @@ struct Console
     /// Prints \a problem for a person.
     /// \return ExitStatus::Unusable
     ExitStatus Refuse(Problem const& problem) const;
-    /// Prints \a line and ends it.
+    /// Prints \a line, made printable, and ends it.
     void Print(QString const& line) const;
+    void Print(QStringList const& lines) const;
     void PrintJson(QJsonObject const& object) const;
 };
 

@@ -1,10 +1,14 @@
 #include "Publisher/FeedSource.h"
 
 #include "Engine/core/fetch/FeedFile.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
 #include "Publisher/late/LatePart.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <climits>
 
 namespace Pelnar::Publisher
 {
@@ -23,15 +27,15 @@ bool IsAddress(QString const& name)
     return false;
 }
 
-std::variant<FeedBytes, Problem> ReadStandardInput(Console const& console)
+FeedBytes ReadStandardInput(Console const& console)
 {
     std::optional<QByteArray> bytes = ReadWhole(console.in, Engine::FetchLimits().maxBodyBytes);
     if (!bytes)
     {
-        return Problem{u"<stdin>"_s, u"the feed is larger than a client accepts"_s,
-                       u"remove old items until it is below 4 MiB"_s};
+        throw Refusal({u"<stdin>"_s, u"the feed is larger than a client accepts"_s,
+                       u"remove old items until it is below 4 MiB"_s});
     }
-    return FeedBytes{u"<stdin>"_s, QUrl::fromLocalFile(QDir::currentPath() + u'/'), std::move(*bytes)};
+    return {u"<stdin>"_s, QUrl::fromLocalFile(QDir::currentPath() + u'/'), std::move(*bytes)};
 }
 
 QString MendOf(int httpStatus)
@@ -48,29 +52,20 @@ QString MendOf(int httpStatus)
     return u"check the server's log and try again"_s;
 }
 
-std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
+FeedBytes Fetch(QString const& name, QUrl const& url)
 {
     Engine::FetchOutcome outcome = FetchAddress(url);
     if (!outcome.error)
     {
-        return FeedBytes{name, outcome.url, std::move(outcome.bytes)};
+        return {name, outcome.url, std::move(outcome.bytes)};
     }
     if (outcome.error->cause == Engine::ErrorCause::HttpStatus)
     {
-        return Problem{name, u"the server answered with status %1"_s.arg(outcome.error->httpStatus),
-                       MendOf(outcome.error->httpStatus)};
+        throw Refusal({name, u"the server answered with status %1"_s.arg(outcome.error->httpStatus),
+                       MendOf(outcome.error->httpStatus)});
     }
     QString const& detail = outcome.error->detail;
-    return Problem{name, outcome.error->sentence.English(), detail.isEmpty() ? QString() : u"detail: "_s + detail};
-}
-
-std::variant<FeedBytes, Problem> ReadNamed(QString const& name, Console const& console)
-{
-    if (name == "-"_l)
-    {
-        return ReadStandardInput(console);
-    }
-    return Fetch(name, IsAddress(name) ? QUrl(name) : QUrl::fromLocalFile(QFileInfo(name).absoluteFilePath()));
+    throw Refusal({name, outcome.error->sentence.English(), detail.isEmpty() ? QString() : u"detail: "_s + detail});
 }
 
 } // namespace
@@ -97,20 +92,38 @@ Engine::FetchOutcome FetchAddress(QUrl const& address)
     return outcome;
 }
 
-std::variant<FeedBytes, Problem> ReadFeed(QString const& name, QString const& publishedAt, Console const& console)
+FeedBytes ReadFeed(QString const& name, QString const& publishedAt, Console const& console)
 {
     QUrl const address(publishedAt);
     if (!publishedAt.isEmpty() && (!address.isValid() || address.isRelative()))
     {
-        return Problem{u"--published-at: \"%1\" is not an address"_s.arg(publishedAt),
-                       u"give the feed's whole address, such as https://updates.example.com/appcast.xml"_s};
+        throw Refusal({u"--published-at: \"%1\" is not an address"_s.arg(publishedAt),
+                       u"give the feed's whole address, such as https://updates.example.com/appcast.xml"_s});
     }
-    std::variant<FeedBytes, Problem> result = ReadNamed(name, console);
-    if (auto* const feed = std::get_if<FeedBytes>(&result); feed && !publishedAt.isEmpty())
+    QUrl const place = IsAddress(name) ? QUrl(name) : QUrl::fromLocalFile(QFileInfo(name).absoluteFilePath());
+    FeedBytes feed = name == "-"_l ? ReadStandardInput(console) : Fetch(name, place);
+    feed.address = publishedAt.isEmpty() ? feed.address : address;
+    return feed;
+}
+
+QByteArray ReadFeedFile(QString const& name)
+{
+    return ReadInputFile(OpenInputFile(name), INT_MAX, u"remove old items"_s);
+}
+
+Engine::FeedContent ParseAsClient(QString const& name, QByteArray const& bytes, QUrl const& address,
+                                  Engine::FeedTarget const& target, QString const& mend)
+{
+    Engine::FeedParseResult feed = Engine::ParseFeed(bytes, address, target);
+    if (!feed)
     {
-        feed->address = address;
+        QString const& detail = feed.error().detail;
+        throw Refusal(
+            {name, feed.error().line, feed.error().column,
+             WithoutFullStop(feed.error().sentence.English()) + (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
+             mend});
     }
-    return result;
+    return *std::move(feed);
 }
 
 } // namespace Pelnar::Publisher

@@ -29,25 +29,24 @@ Progress::~Progress()
 
 void Progress::Show(qint64 done, qint64 total)
 {
-    if (!m_output.isTerminal && total > 0 && m_sinceLine.elapsed() >= m_lineInterval.count())
-    {
-        m_sinceLine.start();
-        m_output.stream << u"%1: %2 %"_s
-                               .arg(m_label, QString::number(
-                                                 int(double(std::clamp<qint64>(done, 0, total)) / double(total) * 100)))
-                               .toStdString()
-                        << std::endl;
-    }
-    bool const isRecent = m_sinceDrawn.isValid() && m_sinceDrawn.elapsed() < REDRAW_MILLISECONDS;
-    if (!m_output.isTerminal || total <= 0 || (isRecent && done < total))
+    bool const isRecent = m_output.isTerminal
+                              ? m_sinceDrawn.isValid() && m_sinceDrawn.elapsed() < REDRAW_MILLISECONDS && done < total
+                              : m_sinceLine.elapsed() < m_lineInterval.count();
+    if (total <= 0 || isRecent)
     {
         return;
     }
+    double const share = double(std::clamp<qint64>(done, 0, total)) / double(total);
+    if (!m_output.isTerminal)
+    {
+        m_sinceLine.start();
+        m_output.stream << u"%1: %2 %"_s.arg(m_label).arg(int(share * 100)).toStdString() << std::endl;
+        return;
+    }
     m_sinceDrawn.start();
-    qint64 const share = std::clamp<qint64>(done, 0, total);
-    int const filled = int(double(share) / double(total) * BAR_WIDTH);
+    int const filled = int(share * BAR_WIDTH);
     QString const bar = u"%1 [%2%3] %4 %"_s.arg(m_label, QString(filled, u'#'), QString(BAR_WIDTH - filled, u'.'),
-                                                QString::number(int(double(share) / double(total) * 100)));
+                                                QString::number(int(share * 100)));
     m_drawnWidth = std::max(m_drawnWidth, bar.size());
     m_output.stream << '\r' << bar.toStdString() << std::flush;
 }

@@ -24,6 +24,8 @@ public:
     /// Draws the bar at \a done of \a total steps or bytes, at most ten times a second. Without a terminal, prints at
     /// most one line in each interval.
     void Show(qint64 done, qint64 total);
+    /// The same, for std::ref.
+    void operator()(std::uint64_t done, std::uint64_t total) { Show(qint64(done), qint64(total)); }
 
 private:
     Output const& m_output;

@@ -7,7 +7,6 @@
 #include <memory>
 #include <stdexcept>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -36,17 +35,6 @@ private:
     std::vector<Problem> m_problems;
     RefusalCause m_cause;
 };
-
-/// The value, or its problem as a Refusal.
-template <class T>
-T Need(std::variant<T, Problem> value)
-{
-    if (auto const* const problem = std::get_if<Problem>(&value))
-    {
-        throw Refusal(*problem);
-    }
-    return std::get<T>(std::move(value));
-}
 
 /// Runs \a work. A Refusal that it throws gets the cause Content.
 void AsContent(std::function<void()> const& work);

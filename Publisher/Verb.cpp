@@ -18,18 +18,6 @@ constexpr decltype(&AddExplain) VERBS[] = {AddExplain,      AddLint,     AddMatr
                                            AddTimeline,     AddKeys,     AddSign,   AddVerify, AddGenerate,
                                            AddCheckRelease, AddSignFeed, AddEdits,  AddDelta,  AddServe};
 
-/// The verbs of the command line that were understood: "pelnar-appcast keys show".
-std::string UnderstoodPart(CLI::App const& program)
-{
-    std::string text = PROGRAM_NAME;
-    for (CLI::App const* verb = &program; !verb->get_subcommands().empty();)
-    {
-        verb = verb->get_subcommands().front();
-        text += ' ' + verb->get_name();
-    }
-    return text;
-}
-
 /// Columns of a line; 0 for lines of any length.
 std::size_t WidthOf(Output const& output)
 {
@@ -78,12 +66,26 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
         console.out.stream << Wrapped(text.str(), WidthOf(console.out));
         return ExitStatus::Clean;
     }
-    return console.Refuse(
-        {QString::fromStdString(error.what()), QString::fromStdString("see " + UnderstoodPart(program) + " --help")});
+    std::string understood = PROGRAM_NAME;
+    CLI::App const* verb = &program;
+    while (!verb->get_subcommands().empty())
+    {
+        verb = verb->get_subcommands().front();
+        understood += ' ' + verb->get_name();
+    }
+    bool const isVerbMissing =
+        error.get_exit_code() == int(CLI::ExitCodes::RequiredError) && !verb->get_subcommands({}).empty();
+    std::string what = isVerbMissing ? "a verb is required" : error.what();
+    if (isVerbMissing && !verb->remaining().empty())
+    {
+        std::string const word = verb->remaining().front();
+        what = '"' + word + (word.rfind('-', 0) == 0 ? "\" is not an option" : "\" is not a verb");
+    }
+    return console.Refuse({QString::fromStdString(what), QString::fromStdString("see " + understood + " --help")});
 }
 
-/// An empty value usually comes from an unset variable of a script, so no verb accepts one.
-void RefuseEmptyValues(CLI::App& app)
+/// What all verbs share. An empty value usually comes from an unset variable of a script, so no verb accepts one.
+void CompleteVerbs(CLI::App& app)
 {
     for (CLI::Option* const option : app.get_options())
     {
@@ -95,7 +97,8 @@ void RefuseEmptyValues(CLI::App& app)
     }
     for (CLI::App* const verb : app.get_subcommands({}))
     {
-        RefuseEmptyValues(*verb);
+        verb->group("Verbs");
+        CompleteVerbs(*verb);
     }
 }
 
@@ -107,13 +110,15 @@ void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use
                      "problem, 1 problems found, 2 bad arguments or unreadable input.",
                      PROGRAM_NAME);
     program.require_subcommand(1);
+    program.get_formatter()->label("SUBCOMMAND", "VERB");
+    program.get_formatter()->label("Positionals", "Arguments");
     program.set_version_flag("--version", std::string(PROGRAM_NAME) + " " + PELNAR_VERSION,
                              "Print the version and exit");
     for (auto* const add : VERBS)
     {
         add(program, context);
     }
-    RefuseEmptyValues(program);
+    CompleteVerbs(program);
     use(program);
 }
 

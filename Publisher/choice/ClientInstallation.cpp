@@ -9,15 +9,24 @@ namespace Pelnar::Publisher
 
 using App::Session::VersionFromStringNoexcept;
 
+Core::Version WholeVersion(Core::Version const& version)
+{
+    return Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT);
+}
+
 Core::Version WholeVersion(QString const& text)
 {
-    return Core::Util::ShrinkVersion(VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
+    return WholeVersion(VersionFromStringNoexcept(text));
+}
+
+QString TextOf(Core::Version const& version)
+{
+    return Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, u"."_s);
 }
 
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation)
 {
-    installation.version =
-        Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, u"."_s);
+    installation.version = TextOf(client.localVersion);
     return installation;
 }
 

@@ -31,8 +31,12 @@ struct NamedVersion
     Core::Version version;
 };
 
+/// \a version with all four components present.
+Core::Version WholeVersion(Core::Version const& version);
 /// The version that the session reads in \a text, all four components present; invalid if it reads none.
 Core::Version WholeVersion(QString const& text);
+/// The present components, such as "5.1".
+QString TextOf(Core::Version const& version);
 
 /// \a installation with the version of \a client.
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation);

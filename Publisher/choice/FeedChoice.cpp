@@ -30,11 +30,6 @@ App::Session::SelectionSubject SubjectOf(Client const& client)
     return {client.systemVersion, client.localVersion, isOlder, isSame};
 }
 
-Core::Version WholeVersionOf(Core::Version const& version)
-{
-    return Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT);
-}
-
 /// The version of a client that is older than every version of an item.
 Core::Version const OLDER_THAN_ALL;
 
@@ -210,7 +205,7 @@ private:
         FullItem const& full =
             **std::find_if(m_items.begin(), m_items.end(),
                            [this](FullItem const* each) { return &each->candidate.item == m_choice.full; });
-        Core::Version const local = WholeVersionOf(m_client.localVersion);
+        Core::Version const local = WholeVersion(m_client.localVersion);
         std::vector<FeedItem const*> met;
         for (std::size_t i = 0; i < full.deltaStarts.size(); ++i)
         {
@@ -285,7 +280,7 @@ void FeedChooser::Data::TakeKeys(FeedItem const& item)
 
 QStringList const& FeedChooser::Data::TrustedBy(Core::Version const& version) const
 {
-    auto const known = installation.trustedKeys.isEmpty() ? trusted.find(WholeVersionOf(version)) : trusted.end();
+    auto const known = installation.trustedKeys.isEmpty() ? trusted.find(WholeVersion(version)) : trusted.end();
     return known != trusted.end() ? known->second : installation.trustedKeys;
 }
 

@@ -59,7 +59,7 @@ Engine::DeltaOutcome Apply(int deltaFd, BundleTree const& oldBundle, int targetF
     Progress bar(progressOutput, u"Applying"_s);
     // Deliberate: no signature is required. The container is checked against its own hashes, and the result is only
     // read, never run.
-    return Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);
+    return Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), std::ref(bar), digest);
 }
 
 /// Applies it to a temporary folder. Returns the digest of the bundle that was made.
@@ -81,11 +81,6 @@ Engine::ContentHash Try(int deltaFd, QString const& name, BundleTree const& oldB
 
 } // namespace
 
-ByteProgress BarFor(Progress& progress)
-{
-    return [&progress](std::uint64_t done, std::uint64_t total) { progress.Show(qint64(done), qint64(total)); };
-}
-
 Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
                               QString const& path, DeltaManner const& manner)
 {
@@ -93,23 +88,15 @@ Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& new
     Engine::DeltaReport report;
     {
         Progress bar(manner.progressOutput, u"Comparing"_s);
-        report = Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
-                                   newBundle.Information().version, file.Descriptor(), {}, BarFor(bar), manner.effort);
+        report =
+            Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
+                              newBundle.Information().version, file.Descriptor(), {}, std::ref(bar), manner.effort);
     }
     if (!report.outcome.HasSucceeded())
     {
         throw Refusal(ProblemWith(report.outcome, path, {&oldBundle, &newBundle}, path));
     }
     Try(file.Descriptor(), path, oldBundle, manner.progressOutput);
-    return report;
-}
-
-Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
-                                  DeltaManner const& manner)
-{
-    AtomicFile file(path);
-    Engine::DeltaReport const report = MakeDelta(oldBundle, newBundle, file, path, manner);
-    file.Commit(ExistingFile::Keep);
     return report;
 }
 

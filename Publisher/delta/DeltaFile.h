@@ -15,12 +15,8 @@ struct DeltaManner
     Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
 };
 
-/// Writes the delta from \a oldBundle to \a newBundle to the new file \a path, after it has applied the delta and
-/// compared the result. Throws Refusal if the file exists, or for bundles of two products or of one version.
-Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
-                                  DeltaManner const& manner);
-
-/// The same for \a file, which is called \a path in messages and keeps its hidden name.
+/// Writes the delta from \a oldBundle to \a newBundle to \a file, which is called \a path in messages, and applies it
+/// once. Throws Refusal, also for bundles of two products or of one version.
 Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
                               QString const& path, DeltaManner const& manner);
 
@@ -35,8 +31,5 @@ void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int tar
 /// Throws Refusal unless \a delta turns \a oldBundle into exactly \a newBundle, which came from an archive.
 void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree const& newBundle,
                 Output const& progressOutput);
-
-/// A progress bar for bytes.
-ByteProgress BarFor(class Progress& progress);
 
 } // namespace Pelnar::Publisher

@@ -1,9 +1,10 @@
 // DeltaVerb.cpp: "delta": makes, applies and shows the small updates from one version of a bundle to another.
 
-#include "Publisher/delta/DeltaVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/keys/Signer.h"
@@ -18,15 +19,11 @@ namespace Pelnar::Publisher
 namespace
 {
 
-constexpr char const* LOW_EFFORT = "low";
-constexpr char const* USUAL_EFFORT = "usual";
-constexpr char const* HIGH_EFFORT = "high";
-
 BundleTree OpenBundle(Console const& console, std::string const& path)
 {
     QString const name = QString::fromStdString(path);
     Progress bar(console.err, u"Unpacking"_s);
-    return BundleTree::Open(name, BarFor(bar));
+    return BundleTree::Open(name, std::ref(bar));
 }
 
 struct CreateOptions
@@ -35,7 +32,7 @@ struct CreateOptions
     std::string newBundle;
     std::string output;
     SignerOptions signer;
-    std::string effort = USUAL_EFFORT;
+    Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
 };
 
 ExitStatus Create(CreateOptions const& options, Console const& console)
@@ -44,7 +41,9 @@ ExitStatus Create(CreateOptions const& options, Console const& console)
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     BundleTree const before = OpenBundle(console, options.oldBundle);
     BundleTree const after = OpenBundle(console, options.newBundle);
-    Engine::DeltaReport const report = MakeDeltaFile(before, after, output, {console.err, EffortOf(options.effort)});
+    AtomicFile file(output);
+    Engine::DeltaReport const report = MakeDelta(before, after, file, output, {console.err, options.effort});
+    file.Commit(ExistingFile::Keep);
     QString const baseVersion = QString::fromStdString(before.Information().version);
     console.Print(u"%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole"_s.arg(
         output, baseVersion, QString::fromStdString(after.Information().version),
@@ -125,7 +124,7 @@ constexpr char const* STREAM_NAMES[Engine::PATCH_STREAMS] = {"steps", "same", "c
 QString OriginOf(Engine::DeltaEntry const& entry)
 {
     bool const isElsewhere = !entry.sourcePath.empty() && entry.sourcePath != entry.path;
-    return isElsewhere ? u" (from %1)"_s.arg(Printable(QString::fromStdString(entry.sourcePath))) : QString();
+    return isElsewhere ? u" (from %1)"_s.arg(QString::fromStdString(entry.sourcePath)) : QString();
 }
 
 /// The joined format does not store the sizes of kept files.
@@ -157,14 +156,14 @@ void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
 
 void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
 {
-    console.Print(u"%1: %2 to %3, %4 bytes"_s.arg(delta.name, Printable(QString::fromStdString(manifest.baseVersion)),
-                                                  Printable(QString::fromStdString(manifest.targetVersion)),
+    console.Print(u"%1: %2 to %3, %4 bytes"_s.arg(delta.name, QString::fromStdString(manifest.baseVersion),
+                                                  QString::fromStdString(manifest.targetVersion),
                                                   QString::number(delta.size)));
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
         console.Print(u"%1 %2  %3%4"_s.arg(QLatin1String(KindName(entry.kind)), -8)
                           .arg(TellsSize(manifest, entry) ? u"%1 bytes"_s.arg(entry.size) : QString(), 16)
-                          .arg(Printable(QString::fromStdString(entry.path)), OriginOf(entry)));
+                          .arg(QString::fromStdString(entry.path), OriginOf(entry)));
     }
     for (Engine::DeltaEntryKind const kind :
          {Engine::DeltaEntryKind::Kept, Engine::DeltaEntryKind::Patched, Engine::DeltaEntryKind::Whole})
@@ -259,24 +258,6 @@ void AddDelta(CLI::App& program, VerbContext& context)
     AddCreate(delta, context);
     AddApply(delta, context);
     AddShow(delta, context);
-}
-
-void AddEffortOption(CLI::App& verb, std::string& effort)
-{
-    verb.add_option("--effort", effort,
-                    "Effort to make deltas small. \"low\" takes up to a quarter less time. Deltas are 4 to 7 % larger, "
-                    "or much larger if gzip files change, and clients apply them fastest. \"high\" takes up to half as "
-                    "long again and saves 3 to 5 %. Clients need up to half as long again")
-        ->type_name("NAME")
-        ->capture_default_str()
-        ->check(CLI::IsMember({LOW_EFFORT, USUAL_EFFORT, HIGH_EFFORT}));
-}
-
-Engine::DeltaEffort EffortOf(std::string const& name)
-{
-    return name == LOW_EFFORT    ? Engine::DeltaEffort::Low
-           : name == HIGH_EFFORT ? Engine::DeltaEffort::High
-                                 : Engine::DeltaEffort::Usual;
 }
 
 } // namespace Pelnar::Publisher

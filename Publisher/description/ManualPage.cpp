@@ -13,35 +13,35 @@ namespace
 
 constexpr char INTRODUCTION[] = R"(.TH PELNAR-APPCAST 1 "" "" "Pelnar update checker"
 .SH NAME
-pelnar\-appcast \- explains, checks, signs and makes the feeds that applications update from
+pelnar\-appcast \- makes, signs, checks and explains the feeds that applications update from
 )";
 
 constexpr char ENDING[] = R"(.SH EXIT STATUS
 .TP
 .B 0
-Done, and nothing to object to.
+Done. No problem was found.
 .TP
 .B 1
-Done, and something is wrong with what was looked at.
+Done. The input has problems.
 .TP
 .B 2
-Not done: bad arguments, or input that cannot be read or is refused.
+Not done. The arguments are wrong, or the input cannot be read.
 .PP
-Errors are lines on standard error: the file, the line and the column where they are known, what is wrong, and after a
-semicolon what to do about it.
+An error is one line on standard error: the file, the line and the column if they are known, the problem, and after a
+semicolon the correction.
 .SH ENVIRONMENT
 .TP
 .B COLUMNS
-How long a line of the help text is.
+Width of the help text in columns.
 .TP
 .B NO_COLOR
-When it is set to anything, nothing is printed in colour.
+If it is set and not empty, the output has no colours.
 .TP
 .B SOURCE_DATE_EPOCH
-Seconds since 1970: the date of new items, in place of the moment of the run.
+Date of new items, in seconds since 1970; default: now.
 .TP
 .B TMPDIR
-Folder for what is unpacked for a while.
+Folder for temporary files; default: /tmp.
 .SH FILES
 A private key is one line of base64 in a file that only its owner may read. It is never an argument and never in the
 environment; "\-" stands for standard input.

@@ -1,7 +1,7 @@
 #include "Publisher/Verb.h"
 
-#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/diff/FeedDiff.h"
 
 #include <QJsonArray>
@@ -58,17 +58,13 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
     bool const isSame = changes.empty() && itemChanges.empty();
     if (options.isJson)
     {
-        QJsonObject json =
-            JsonOf(changes, before.source.name, after.source.name, QString::fromStdString(options.platform));
+        QJsonObject json = JsonOf(changes, before.source.name, after.source.name, Engine::NameOf(options.platform));
         json.insert(u"items"_s, JsonOf(itemChanges));
         AddInstallation(json, options.installation);
         console.PrintJson(json);
         return isSame ? ExitStatus::Clean : ExitStatus::Findings;
     }
-    for (QString const& line : TextOf(itemChanges) + TextOf(changes, versions))
-    {
-        console.Print(Printable(line));
-    }
+    console.Print(TextOf(itemChanges) + TextOf(changes, versions));
     if (changes.empty())
     {
         console.Print(u"every client gets the same as before"_s);
@@ -84,8 +80,7 @@ void AddDiff(CLI::App& program, VerbContext& context)
         program, context, "diff",
         "Compare the effects of two feeds: which installed versions on which systems get another update", Diff);
     verb.add_option("OLD", options.feed, "Path or address of the old feed")->required();
-    verb.add_option("NEW", options.newFeed, "Path or address of the new feed, or - for standard input")
-        ->required();
+    verb.add_option("NEW", options.newFeed, "Path or address of the new feed, or - for standard input")->required();
     verb.add_option("--versions", options.versions,
                     "Installed versions, separated by commas; default: all that either feed names, and 0")
         ->type_name("LIST");

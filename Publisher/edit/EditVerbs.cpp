@@ -2,17 +2,16 @@
 
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/edit/FeedEdits.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
 #include "Publisher/keys/Signer.h"
 #include "Publisher/signfeed/FeedSigner.h"
-#include "Publisher/signfeed/SignFeedVerb.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <climits>
 #include <memory>
 
 namespace Pelnar::Publisher
@@ -39,20 +38,13 @@ bool HasSignature(QByteArray const& bytes)
     return Engine::SplitSignedFeed(bytes).fault != Engine::SignedFeedFault::Missing;
 }
 
-void Store(QString const& name, QByteArray const& bytes)
-{
-    AtomicFile file(name);
-    file.Write(bytes);
-    file.Commit(ExistingFile::Replace);
-}
-
 /// Writes \a edited, signed by \a signer unless it is null.
 void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigner const* signer, int validDays,
            Console const& console)
 {
     if (!signer)
     {
-        Store(name, edited);
+        ReplaceFile(name, edited);
         if (wasSigned)
         {
             console.Print(
@@ -62,7 +54,7 @@ void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigne
         return;
     }
     SignedFeedBytes const feed = SignFeed(name, edited, *signer, {{}, validDays, QDateTime::currentDateTimeUtc()});
-    Store(name, feed.bytes);
+    ReplaceFile(name, feed.bytes);
     console.Print(u"%1: %2"_s.arg(name, TextOf(feed.terms)));
 }
 
@@ -70,7 +62,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
 {
     QString const name = QString::fromStdString(options.feed);
     FolderLock const lock(QFileInfo(name).absolutePath(), console);
-    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"remove old items"_s);
+    QByteArray bytes = ReadFeedFile(name);
     bool const wasSigned = HasSignature(bytes);
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     if (signer)
@@ -79,22 +71,19 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     }
     FeedEdit feed(name, bytes);
     edit(feed, options);
-    for (QString const& line : feed.Differences())
-    {
-        console.Print(Printable(line));
-    }
-    if (!feed.HasChanges())
+    console.Print(feed.Text().Differences());
+    if (!feed.Text().HasChanges())
     {
         console.Print(u"%1: nothing to change"_s.arg(name));
         return ExitStatus::Clean;
     }
-    FeedEdit const proof(name, feed.Bytes());
+    FeedEdit const proof(name, feed.Text().Bytes());
     if (options.isDryRun)
     {
         console.Print(u"%1: not written, because this is a dry run"_s.arg(name));
         return ExitStatus::Clean;
     }
-    Store(name, feed.Bytes(), wasSigned, signer.get(), options.validDays, console);
+    Store(name, feed.Text().Bytes(), wasSigned, signer.get(), options.validDays, console);
     return ExitStatus::Clean;
 }
 

@@ -1,9 +1,8 @@
 #include "Publisher/edit/FeedEdit.h"
 
+#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientInstallation.h"
-
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -12,7 +11,6 @@ namespace Pelnar::Publisher
 namespace
 {
 
-constexpr char BYTE_ORDER_MARK[] = "\xEF\xBB\xBF";
 constexpr Engine::FeedPlatform PLATFORMS[] = {Engine::FeedPlatform::Linux, Engine::FeedPlatform::MacOS};
 
 bool IsSame(QString const& a, QString const& b)
@@ -23,80 +21,24 @@ bool IsSame(QString const& a, QString const& b)
 
 } // namespace
 
-FeedEdit::FeedEdit(QString name, QByteArray bytes)
-    : m_name(std::move(name))
-    , m_text(QString::fromUtf8(bytes.constData(), bytes.size()))
-    , m_hasMark(bytes.startsWith(BYTE_ORDER_MARK))
+FeedEdit::FeedEdit(QString name, QByteArray const& bytes)
+    : m_name(std::move(name)), m_text(m_name, bytes), m_document(ReadFeedDocument(bytes))
 {
-    TakePlaces();
+    for (XmlElement const* const element : ItemElements(m_document))
+    {
+        m_items.push_back({element, {}});
+    }
     for (Engine::FeedPlatform const platform : PLATFORMS)
     {
-        Engine::FeedParseResult const feed = Engine::ParseFeed(bytes, QUrl(), platform);
-        if (!feed)
+        for (Engine::FeedItem const& item :
+             ParseAsClient(m_name, bytes, {}, platform, u"correct the feed first"_s).items)
         {
-            throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                           u"correct the feed first"_s});
-        }
-        for (Engine::FeedItem const& item : feed->items)
-        {
-            for (EditedItem& each : m_items)
+            auto const known = std::find_if(m_items.begin(), m_items.end(),
+                                            [&item](EditedItem const& each) { return each.element->IsSourceOf(item); });
+            if (known != m_items.end() && known->item.versionString.isEmpty())
             {
-                bool const isThis = each.item.line == item.line && each.item.column == item.column;
-                if (isThis && each.item.versionString.isEmpty())
-                {
-                    each.item = item;
-                }
+                known->item = item;
             }
-        }
-    }
-    // UTF-16 without a mark could be UTF-8 too, but XML has no zero.
-    if (Bytes() != bytes || bytes.contains('\0'))
-    {
-        throw Refusal(
-            {m_name, 1, 0, u"is not UTF-8; only UTF-8 feeds can be changed"_s, u"convert the feed to UTF-8"_s});
-    }
-}
-
-void FeedEdit::TakePlaces()
-{
-    QXmlStreamReader reader(m_text);
-    int depth = 0;
-    int itemDepth = 0; // of the current item; 0 outside items
-    while (!reader.atEnd())
-    {
-        QXmlStreamReader::TokenType const token = reader.readNext();
-        int const offset = int(reader.characterOffset());
-        if (token == QXmlStreamReader::StartElement)
-        {
-            ++depth;
-            int const start = m_text.lastIndexOf(u'<', offset - 1);
-            if (itemDepth == 0 && reader.namespaceUri().isEmpty() && reader.name() == "item"_l)
-            {
-                itemDepth = depth;
-                EditedItem& item = m_items.emplace_back();
-                item.range.start = start;
-                item.contentStart = offset;
-                item.item.line = int(reader.lineNumber());
-                item.item.column = int(reader.columnNumber()) + 1;
-            }
-            else if (itemDepth > 0 && depth == itemDepth + 1)
-            {
-                m_items.back().children.push_back(
-                    {reader.namespaceUri().toString(), reader.name().toString(), {start, offset}});
-            }
-        }
-        else if (token == QXmlStreamReader::EndElement)
-        {
-            if (itemDepth > 0 && depth == itemDepth + 1)
-            {
-                m_items.back().children.back().range.end = offset;
-            }
-            else if (depth == itemDepth)
-            {
-                m_items.back().range.end = offset;
-                itemDepth = 0;
-            }
-            --depth;
         }
     }
 }
@@ -121,77 +63,32 @@ std::vector<EditedItem const*> FeedEdit::ItemsOf(QString const& version) const
 
 int FeedEdit::FirstPlaceIn(EditedItem const& item) const
 {
-    return item.children.empty() ? m_text.lastIndexOf("</"_l, item.range.end - 1) : item.children.front().range.start;
+    std::vector<XmlElement> const& children = item.element->children;
+    return children.empty() ? item.element->content.end : children.front().range.start;
 }
 
 void FeedEdit::InsertLine(int place, QString const& line)
 {
-    int const lineStart = m_text.lastIndexOf(u'\n', place - 1) + 1;
-    QString const before = m_text.mid(lineStart, place - lineStart);
-    bool const isBlank = std::all_of(before.begin(), before.end(), [](QChar c) { return c.isSpace(); });
-    QString const lineEnd = m_text.contains("\r\n"_l) ? u"\r\n"_s : u"\n"_s;
-    m_changes.push_back({{place, place}, isBlank ? line + lineEnd + before : line});
+    QString const& text = m_text.Original();
+    int const lineStart = text.lastIndexOf(u'\n', place - 1) + 1;
+    QString const before = text.mid(lineStart, place - lineStart);
+    m_text.Insert(place, before.trimmed().isEmpty() ? line + m_text.LineEnd() + before : line);
 }
 
 void FeedEdit::Remove(TextRange const& range)
 {
+    QString const& text = m_text.Original();
     int start = range.start;
-    while (start > 0 && (m_text.at(start - 1) == u' ' || m_text.at(start - 1) == u'\t'))
+    while (start > 0 && (text.at(start - 1) == u' ' || text.at(start - 1) == u'\t'))
     {
         --start;
     }
-    bool const isLine = start > 0 && m_text.at(start - 1) == u'\n';
+    bool const isLine = start > 0 && text.at(start - 1) == u'\n';
     if (isLine)
     {
-        start -= start > 1 && m_text.at(start - 2) == u'\r' ? 2 : 1;
+        start -= start > 1 && text.at(start - 2) == u'\r' ? 2 : 1;
     }
-    m_changes.push_back({{isLine ? start : range.start, range.end}, QString()});
-}
-
-void FeedEdit::Replace(TextRange const& range, QString const& text)
-{
-    if (m_text.mid(range.start, range.end - range.start) != text)
-    {
-        m_changes.push_back({range, text});
-    }
-}
-
-std::vector<FeedEdit::Change> FeedEdit::SortedChanges() const
-{
-    std::vector<Change> changes = m_changes;
-    std::stable_sort(changes.begin(), changes.end(),
-                     [](Change const& a, Change const& b) { return a.range.start < b.range.start; });
-    return changes;
-}
-
-QStringList FeedEdit::Differences() const
-{
-    QStringList lines;
-    for (Change const& change : SortedChanges())
-    {
-        QString const gone = m_text.mid(change.range.start, change.range.end - change.range.start).trimmed();
-        for (auto const& [mark, text] : {std::pair("- ", gone), std::pair("+ ", change.text.trimmed())})
-        {
-            for (QString const& line : text.split(u'\n', Qt::SkipEmptyParts))
-            {
-                lines.append(QLatin1String(mark) + line.trimmed());
-            }
-        }
-    }
-    return lines;
-}
-
-QByteArray FeedEdit::Bytes() const
-{
-    QString result;
-    int done = 0;
-    for (Change const& change : SortedChanges())
-    {
-        result += m_text.midRef(done, change.range.start - done) + change.text;
-        done = change.range.end;
-    }
-    result += m_text.midRef(done);
-    return m_hasMark ? BYTE_ORDER_MARK + result.toUtf8() : result.toUtf8();
+    m_text.Replace({isLine ? start : range.start, range.end}, QString());
 }
 
 } // namespace Pelnar::Publisher

@@ -1,45 +1,28 @@
-// FeedEdit.h: changes single places of a published feed and keeps every other byte.
+// FeedEdit.h: the items of a published feed, and changes of single places in them.
 #pragma once
 
-#include "Engine/core/feed/FeedParser.h"
-
-#include <QByteArray>
-#include <QStringList>
-
-#include <vector>
+#include "Publisher/files/FeedText.h"
 
 namespace Pelnar::Publisher
 {
 
-/// A piece of the text, from its first character to the one after it.
-struct TextRange
-{
-    int start = 0;
-    int end = 0;
-};
-
-struct EditedChild
-{
-    QString namespaceUri;
-    QString name;
-    TextRange range; ///< with its tags
-};
-
 struct EditedItem
 {
+    XmlElement const* element;
     Engine::FeedItem item; ///< as the first platform with this item reads it
-    TextRange range;       ///< with its tags
-    int contentStart = 0;  ///< after its start tag
-    std::vector<EditedChild> children;
 };
 
 class FeedEdit
 {
 public:
-    /// Throws Refusal if clients cannot read it, if it is not UTF-8, and if an item has no end tag.
-    FeedEdit(QString name, QByteArray bytes);
+    /// Throws Refusal if clients cannot read the feed, and if it is not UTF-8.
+    FeedEdit(QString name, QByteArray const& bytes);
+    FeedEdit(FeedEdit const&) = delete;
+    FeedEdit& operator=(FeedEdit const&) = delete;
 
     QString const& Name() const { return m_name; }
+    /// With all changes.
+    FeedText const& Text() const { return m_text; }
     std::vector<EditedItem> const& Items() const { return m_items; }
     /// The items of \a version, in any spelling of it. Throws Refusal if there are none.
     std::vector<EditedItem const*> ItemsOf(QString const& version) const;
@@ -48,30 +31,15 @@ public:
     void InsertLine(int place, QString const& line);
     /// Removes \a range, the blanks before it, and the end of the line before.
     void Remove(TextRange const& range);
-    void Replace(TextRange const& range, QString const& text);
+    void Replace(TextRange const& range, QString const& text) { m_text.Replace(range, text); }
     /// The place of the first child, or of the end tag.
     int FirstPlaceIn(EditedItem const& item) const;
 
-    [[nodiscard]] bool HasChanges() const { return !m_changes.empty(); }
-    /// Removed lines with "-" and added lines with "+", in the order of the feed.
-    QStringList Differences() const;
-    QByteArray Bytes() const;
-
 private:
-    struct Change
-    {
-        TextRange range;
-        QString text;
-    };
-
-    void TakePlaces();
-    std::vector<Change> SortedChanges() const;
-
-    QString m_name;
-    QString m_text;
-    bool m_hasMark = false; ///< of the byte order, before the text
+    QString const m_name;
+    FeedText m_text;
+    XmlElement const m_document;
     std::vector<EditedItem> m_items;
-    std::vector<Change> m_changes;
 };
 
 } // namespace Pelnar::Publisher

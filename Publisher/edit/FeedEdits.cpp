@@ -14,16 +14,6 @@ namespace Pelnar::Publisher
 namespace
 {
 
-bool IsChannel(EditedChild const& child)
-{
-    return child.namespaceUri == QLatin1String(Engine::FEED_NAMESPACE) && child.name == "channel"_l;
-}
-
-bool IsDescription(EditedChild const& child)
-{
-    return child.namespaceUri.isEmpty() && child.name == "description"_l;
-}
-
 QString ChannelText(QString const& channel)
 {
     return u"<sparkle:channel xmlns:sparkle=\"%1\">%2</sparkle:channel>"_s.arg(QLatin1String(Engine::FEED_NAMESPACE),
@@ -136,13 +126,13 @@ void Promote(FeedEdit& feed, QString const& version, QString const& channel)
     for (EditedItem const* const item : feed.ItemsOf(version))
     {
         bool isPlaced = channel.isEmpty();
-        for (EditedChild const& child : item->children)
+        for (XmlElement const& child : item->element->children)
         {
-            if (IsChannel(child) && isPlaced)
+            if (child.name.IsFeeds("channel") && isPlaced)
             {
                 feed.Remove(child.range);
             }
-            else if (IsChannel(child))
+            else if (child.name.IsFeeds("channel"))
             {
                 isPlaced = true;
                 if (item->item.policy.channel != channel)
@@ -163,10 +153,10 @@ void EditNotes(FeedEdit& feed, QString const& version, std::vector<ReleaseNotes>
     for (EditedItem const* const item : feed.ItemsOf(version))
     {
         std::size_t next = 0;
-        EditedChild const* last = nullptr;
-        for (EditedChild const& child : item->children)
+        XmlElement const* last = nullptr;
+        for (XmlElement const& child : item->element->children)
         {
-            if (!IsDescription(child))
+            if (!child.name.IsPlain("description"))
             {
                 continue;
             }
@@ -195,7 +185,7 @@ void EditNotes(FeedEdit& feed, QString const& version, std::vector<ReleaseNotes>
 
 void Prune(FeedEdit& feed, int keptVersions)
 {
-    QByteArray const before = feed.Bytes();
+    QByteArray const before = feed.Text().Bytes();
     std::vector<Core::Version> const versions = VersionsOf(feed);
     if (versions.size() <= std::size_t(keptVersions))
     {
@@ -207,7 +197,7 @@ void Prune(FeedEdit& feed, int keptVersions)
         Core::Version const version = App::Session::VersionFromStringNoexcept(item.item.versionString);
         if (version.IsValid() && !item.item.policy.isWithdrawn && App::Session::IsOlderVersion(version, oldest))
         {
-            feed.Remove(item.range);
+            feed.Remove(item.element->range);
         }
     }
     std::vector<std::string> machines = Engine::MachineNames();
@@ -216,7 +206,7 @@ void Prune(FeedEdit& feed, int keptVersions)
     {
         for (std::string const& machine : machines)
         {
-            RefuseOtherOutcomes(feed.Name(), before, feed.Bytes(), {platform, QString::fromStdString(machine)});
+            RefuseOtherOutcomes(feed.Name(), before, feed.Text().Bytes(), {platform, QString::fromStdString(machine)});
         }
     }
 }

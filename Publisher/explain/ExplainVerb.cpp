@@ -1,9 +1,8 @@
 #include "Publisher/Verb.h"
 
-#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/explain/ExplanationText.h"
-#include "Publisher/gate/CheckReleaseVerb.h"
 
 #include <QJsonArray>
 
@@ -28,7 +27,7 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
     ParsedFeed const feed = ReadItems(options, options.feed, installation.machine, console);
     PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::DELTA : PreviousAnswer::NONE;
     Explanation const explanation = ExplainFeed(feed.items, {local.version, system.version, previous}, installation);
-    ExplainQuestion const question{feed.source.name, local.text, system.text, QString::fromStdString(options.platform),
+    ExplainQuestion const question{feed.source.name, local.text, system.text, Engine::NameOf(options.platform),
                                    previous};
     if (options.isJson)
     {
@@ -60,9 +59,9 @@ void AddExplain(CLI::App& program, VerbContext& context)
         ->type_name("V");
     AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
-    AddPublicKeysOption(verb, options.installation.publicKeys,
-                        "Public key that the client trusts, in base64; may be repeated; default: the keys that the "
-                        "feed names for its version");
+    AddKeysOption(verb, "--public-key", options.installation.publicKeys,
+                  "Public key that the client trusts, in base64; may be repeated; default: the keys that the "
+                  "feed names for its version");
     verb.add_flag("--after-delta", options.isAfterDelta,
                   "Answer for a client that was offered a delta and now asks for a full item as the fallback");
 }

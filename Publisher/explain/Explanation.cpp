@@ -1,7 +1,5 @@
 #include "Publisher/explain/Explanation.h"
 
-#include "HostFramework/VersionText.h"
-
 #include <algorithm>
 
 namespace Pelnar::Publisher
@@ -13,11 +11,6 @@ using App::Session::Judgement;
 using App::Session::PreferenceRule;
 using App::Session::UpdateType;
 using Engine::FeedItem;
-
-QString TextOf(Core::Version const& version)
-{
-    return Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, u"."_s);
-}
 
 QString Quoted(QString const& text)
 {

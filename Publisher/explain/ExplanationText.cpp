@@ -103,10 +103,10 @@ void PrintItem(ItemExplanation const& explained, QString const& indent, Console 
     std::ostream& stream = console.out.stream;
     stream << indent.toStdString()
            << console.out.Styled(explained.standing == Standing::Chosen ? Emphasis::Bold : Emphasis::None,
-                                 Printable(HeadOf(explained)))
+                                 HeadOf(explained))
            << '\n';
     QString const verdict = QLatin1String(explained.VerdictName());
-    QString const detail = explained.detail.isEmpty() ? QString() : u": "_s + Printable(explained.detail);
+    QString const detail = explained.detail.isEmpty() ? QString() : u": "_s + explained.detail;
     stream << inner.toStdString() << console.out.Styled(EmphasisOf(explained.standing), verdict + detail) << '\n';
     if (!item.fileUrl.isEmpty())
     {
@@ -115,7 +115,7 @@ void PrintItem(ItemExplanation const& explained, QString const& indent, Console 
     for (auto extension = explained.extensions.cbegin(); extension != explained.extensions.cend(); ++extension)
     {
         QString const value = extension.value().isValid() ? extension.value().toString() : u"<NOT A STRING>"_s;
-        console.Print(Printable(inner + extension.key() + u" = "_s + value));
+        console.Print(inner + extension.key() + u" = "_s + value);
     }
     for (ItemExplanation const& delta : explained.deltas)
     {
@@ -150,8 +150,8 @@ QString AnswerOf(Explanation const& explanation)
 
 void PrintExplanation(Explanation const& explanation, ExplainQuestion const& question, Console const& console)
 {
-    console.Print(Printable(
-        u"%1: %2 for %3"_s.arg(question.feed, CountOf(explanation.items.size(), u"item"_s), question.platform)));
+    console.Print(
+        u"%1: %2 for %3"_s.arg(question.feed, CountOf(explanation.items.size(), u"item"_s), question.platform));
     for (ItemExplanation const& item : explanation.items)
     {
         PrintItem(item, QString(), console);
@@ -161,7 +161,7 @@ void PrintExplanation(Explanation const& explanation, ExplainQuestion const& que
         question.previousAnswer == PreviousAnswer::DELTA ? u", after a delta answer,"_s : QString());
     console.out.stream << asked.toStdString()
                        << console.out.Styled(explanation.choice.chosen ? Emphasis::Good : Emphasis::Warning,
-                                             Printable(AnswerOf(explanation)))
+                                             AnswerOf(explanation))
                        << '\n';
 }
 

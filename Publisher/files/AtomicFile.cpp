@@ -137,17 +137,9 @@ void AtomicFile::LinkHidden()
     m_hiddenName = hidden;
 }
 
-void AtomicFile::Sync() const
+void AtomicFile::Sync(Engine::UniqueFd const& fileOrFolder) const
 {
-    if (::fsync(Descriptor()) != 0)
-    {
-        RefuseFile(m_path, u"cannot be written"_s, errno, MEND);
-    }
-}
-
-void AtomicFile::SyncFolder() const
-{
-    if (::fsync(m_folder.Get()) != 0)
+    if (::fsync(fileOrFolder.Get()) != 0)
     {
         RefuseFile(m_path, u"cannot be written"_s, errno, MEND);
     }
@@ -170,11 +162,11 @@ void AtomicFile::NameForNow()
 void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last)
 {
     // The slow steps come first, so that little time is left for an interruption between the first name and the last.
-    last.Sync();
+    last.Sync(last.m_descriptor);
     last.LinkHidden();
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
-        file->Sync();
+        file->Sync(file->m_descriptor);
     }
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
@@ -182,7 +174,7 @@ void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& 
     }
     if (!files.empty())
     {
-        files.front()->SyncFolder();
+        files.front()->Sync(files.front()->m_folder);
     }
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
@@ -193,15 +185,15 @@ void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& 
     {
         file->m_isCommitted = true;
     }
-    last.SyncFolder();
+    last.Sync(last.m_folder);
 }
 
 void AtomicFile::Commit(ExistingFile existing)
 {
-    Sync();
+    Sync(m_descriptor);
     LinkHidden();
     Name(existing);
-    SyncFolder();
+    Sync(m_folder);
 }
 
 void AtomicFile::Name(ExistingFile existing)
@@ -209,6 +201,13 @@ void AtomicFile::Name(ExistingFile existing)
     NameFinally(m_folder.Get(), m_hiddenName, m_path, existing);
     m_isCommitted = true;
     m_leftover.reset();
+}
+
+void ReplaceFile(QString const& path, QByteArray const& bytes)
+{
+    AtomicFile file(path);
+    file.Write(bytes);
+    file.Commit(ExistingFile::Replace);
 }
 
 NewFolder::NewFolder(QString const& path) : m_path(path)

@@ -45,8 +45,7 @@ public:
 private:
     void MakeHidden(QByteArray const& folder);
     void LinkHidden();
-    void Sync() const;
-    void SyncFolder() const;
+    void Sync(Engine::UniqueFd const& fileOrFolder) const;
     void Name(ExistingFile existing);
     void NameForNow();
 
@@ -58,6 +57,9 @@ private:
     Engine::UniqueFd m_descriptor;
     bool m_isCommitted = false;
 };
+
+/// Writes \a bytes to the file \a path, which may exist. Throws Refusal, and the file is then unchanged.
+void ReplaceFile(QString const& path, QByteArray const& bytes);
 
 /// The same for a folder. Its name must be free.
 class NewFolder

@@ -9,7 +9,6 @@
 #include "Engine/core/faults/UpdateFault.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
-#include "Publisher/files/GzipCheck.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,6 +22,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <zlib.h>
 
 namespace Pelnar::Publisher
 {
@@ -69,6 +69,30 @@ void RemoveAbandoned()
             static_cast<void>(Engine::RemoveTree(parent.Get(), QFile::encodeName(name).toStdString()));
         }
     }
+}
+
+/// True if every gzip member of the file has the checksum and the length that it states: the library that reads
+/// archives does not compare them. Bytes after the last member are ignored, as in gunzip. Leaves the descriptor at the
+/// file's start.
+bool IsIntactGzip(int descriptor)
+{
+    constexpr unsigned PIECE_BYTES = 256 << 10;
+    int const copy = ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    gzFile const file = copy >= 0 && ::lseek(copy, 0, SEEK_SET) == 0 ? ::gzdopen(copy, "rb") : nullptr;
+    if (!file)
+    {
+        ::close(copy);
+        return false;
+    }
+    std::vector<char> unpacked(PIECE_BYTES);
+    int count = 0;
+    do
+    {
+        count = ::gzread(file, unpacked.data(), PIECE_BYTES);
+    } while (count > 0);
+    bool const isGzip = count == 0 && ::gzdirect(file) == 0;
+    bool const isWhole = ::gzclose_r(file) == Z_OK; // a member may end too early
+    return isGzip && isWhole && ::lseek(descriptor, 0, SEEK_SET) == 0;
 }
 
 /// The refusal, and every other entry of the archive that is refused.

@@ -89,7 +89,7 @@ Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name)
     Problem problem = ProblemOf(refusal.Fault(), refusal.ErrorNumber(), name);
     if (!refusal.Entry().empty())
     {
-        problem.what += u": \"%1\""_s.arg(Printable(QString::fromStdString(refusal.Entry())));
+        problem.what += u": \"%1\""_s.arg(QString::fromStdString(refusal.Entry()));
     }
     return problem;
 }
@@ -101,7 +101,7 @@ RefusalCause CauseOf(UpdateFault fault)
 
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)
 {
-    QString const file = outcome.path.empty() ? name : name + u'/' + Printable(QString::fromStdString(outcome.path));
+    QString const file = outcome.path.empty() ? name : name + u'/' + QString::fromStdString(outcome.path);
     bool const isLimit = Engine::FaultUnlessLimit(outcome.systemError, UpdateFault::None) != UpdateFault::None;
     if (outcome.error == DeltaError::TreeRefused || isLimit)
     {

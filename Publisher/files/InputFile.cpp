@@ -9,7 +9,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace Pelnar::Publisher
 {
@@ -39,7 +38,7 @@ InputFile OpenInputFile(QString const& path)
     }
     if (!S_ISREG(status.st_mode))
     {
-        throw Refusal({path, u"is not a plain file"_s, u"name a file"_s});
+        throw Refusal({path, u"is not a plain file"_s, u"give a plain file, or a link to one"_s});
     }
     auto const size = static_cast<std::uint64_t>(status.st_size);
     return {std::move(descriptor), path, size,

@@ -1,9 +1,7 @@
-#include "Publisher/gate/CheckReleaseVerb.h"
+#include "Publisher/Verb.h"
 
-#include "Engine/core/bundle/CheckBundle.h"
-#include "Engine/core/bundle/Ed25519Signature.h"
-#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/gate/ReleaseCheck.h"
 
 #include <QDir>
@@ -25,11 +23,10 @@ struct Options
 
 ExitStatus Check(Options const& options, Console const& console)
 {
-    CheckPublicKeys(options.publicKeys);
     QString const name = QString::fromStdString(options.release);
     QFileInfo const place(name);
     QString const feedName = place.isDir() ? QDir(name).filePath(QLatin1String(FEED_FILE)) : name;
-    FeedBytes feed = Need(ReadFeed(feedName, {}, console));
+    FeedBytes feed = ReadFeed(feedName, {}, console);
     ReleaseCheckRequest request;
     request.feedName = feed.name;
     request.feedAddress = feed.address;
@@ -41,34 +38,6 @@ ExitStatus Check(Options const& options, Console const& console)
 }
 
 } // namespace
-
-void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise)
-{
-    verb.add_option("--machine", names,
-                    "Machine that the programs in bundles for Linux are built for; may be repeated; default: " +
-                        otherwise)
-        ->type_name("NAME")
-        ->allow_extra_args(false)
-        ->check(CLI::IsMember(Engine::MachineNames()));
-}
-
-void AddPublicKeysOption(CLI::App& verb, std::vector<std::string>& keys, std::string const& description)
-{
-    verb.add_option("--public-key", keys, description)->allow_extra_args(false)->type_name("KEY");
-}
-
-void CheckPublicKeys(std::vector<std::string> const& keys)
-{
-    for (std::string const& text : keys)
-    {
-        Engine::Ed25519Key key;
-        if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
-        {
-            throw Refusal({u"--public-key: \"%1\" is not an Ed25519 key"_s.arg(QString::fromStdString(text)),
-                           u"give the 32 bytes in base64 that pelnar-appcast keys show prints"_s});
-        }
-    }
-}
 
 void AddCheckRelease(CLI::App& program, VerbContext& context)
 {
@@ -85,9 +54,8 @@ void AddCheckRelease(CLI::App& program, VerbContext& context)
                     "downloads of older versions may be missing and are then not checked")
         ->required();
     AddMachineOption(verb, options.machines, "this machine, and all machines that the feed names");
-    AddPublicKeysOption(
-        verb, options.publicKeys,
-        "Public key that signed a download and that no available bundle trusts, in base64; may be repeated");
+    AddKeysOption(verb, "--public-key", options.publicKeys,
+                  "Public key that signed a download and that no available bundle trusts, in base64; may be repeated");
 }
 
 } // namespace Pelnar::Publisher

@@ -58,7 +58,7 @@ Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path)
                 {path,
                  u"%1 \"%2\" in the bundle's information file is not an Ed25519 key; its clients could never be updated again"_s
                      .arg(QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
-                          Printable(QString::fromStdString(text).left(60))),
+                          QString::fromStdString(text).left(60)),
                  u"write the entry that \"keys show\" prints"_s},
                 RefusalCause::Content);
         }
@@ -91,7 +91,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
         throw Refusal(
             {path,
              u"PelnarRootPublicEDKey \"%1\" in the bundle's information file is not an Ed25519 key; its clients would refuse every feed"_s
-                 .arg(Printable(QString::fromStdString(information.rootPublicKey).left(60))),
+                 .arg(QString::fromStdString(information.rootPublicKey).left(60)),
              u"write the public key that \"keys show\" prints for the root key"_s},
             RefusalCause::Content);
     }

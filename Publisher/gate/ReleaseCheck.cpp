@@ -231,7 +231,7 @@ private:
     BundleTree Unpack(InputFile const& file) const
     {
         Progress bar(m_console.err, u"Unpacking "_s + file.name);
-        return BundleTree::Unpack(file, BarFor(bar));
+        return BundleTree::Unpack(file, std::ref(bar));
     }
 
     /// The ids of the keys that signed. The feed must name them correctly, because clients choose the signature by
@@ -347,13 +347,11 @@ private:
 
 ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& console)
 {
-    LintResult lint = LintFeed(request.feed, request.feedAddress);
-    std::vector<LintFinding> const ofKeys =
-        CheckKeyStatement(request.feed, lint.subject.get(), {{}, {}, QDateTime::currentDateTimeUtc()});
-    lint.findings.insert(lint.findings.end(), ofKeys.begin(), ofKeys.end());
-    std::vector<LintFinding> errors;
-    std::copy_if(lint.findings.begin(), lint.findings.end(), std::back_inserter(errors),
-                 [](LintFinding const& finding) { return EntryOf(finding.rule).severity == Severity::Error; });
+    std::vector<LintFinding> errors = LintAsPublished(request.feed, request.feedAddress);
+    errors.erase(std::remove_if(errors.begin(), errors.end(),
+                                [](LintFinding const& finding)
+                                { return EntryOf(finding.rule).severity != Severity::Error; }),
+                 errors.end());
     if (!errors.empty())
     {
         PrintFindings(request.feedName, errors, console);

@@ -27,7 +27,7 @@ Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString cons
     request.insecureHttp = Engine::InsecureHttp::Anywhere;
     Progress progress(console.err, u"Fetching "_s + item.fileUrl.fileName());
     return LoadLatePart().download(request, [&](Engine::DownloadProgress const& now)
-                                   { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); });
+                                   { progress(now.doneBytes, now.totalBytes); });
 }
 
 std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,

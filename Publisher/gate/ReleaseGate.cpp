@@ -61,7 +61,7 @@ ProgramKind KindOf(BundleTree const& bundle, std::string const& path)
 
 QString EntryText(BundleTree const& bundle, std::string const& path)
 {
-    return u": \"%1\""_s.arg(Printable(QString::fromStdString(bundle.Name() + '/' + path)));
+    return u": \"%1\""_s.arg(QString::fromStdString(bundle.Name() + '/' + path));
 }
 
 /// Programs for macOS cannot run here. Only this is checked: the program exists, and it is not one for Linux.

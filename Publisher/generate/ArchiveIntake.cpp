@@ -118,7 +118,7 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
     // Signed last, so that problems of other archives are reported before the long work.
     for (NewItem& item : m_items)
     {
-        item.signature = m_workplace.Sign(item.fileName);
+        item.signature = m_workplace.Sign(m_workplace.Open(item.fileName));
         item.signerId = m_workplace.KeyId();
     }
     return std::move(m_items);
@@ -343,7 +343,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     {
         throw ContentRefusal({path,
                               u"is named after version %1, but installs \"%2\""_s.arg(
-                                  item.versionText, Printable(QString::fromStdString(information.version))),
+                                  item.versionText, QString::fromStdString(information.version)),
                               u"name it after the CFBundleVersion in its information file"_s});
     }
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);

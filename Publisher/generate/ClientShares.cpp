@@ -43,14 +43,14 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
         ClientShare const client{WholeVersion(words.front()), words.size() == 2 ? words.back().toDouble(&isNumber) : 0};
         if (!client.version.IsValid() || !isNumber || !std::isfinite(client.share) || !(client.share > 0))
         {
-            RefuseLine(name, number, u"\"%1\" is not a version and a share"_s.arg(Printable(line)));
+            RefuseLine(name, number, u"\"%1\" is not a version and a share"_s.arg(line));
         }
         bool const isKnown =
             std::any_of(clients.begin(), clients.end(),
                         [&client](ClientShare const& other) { return other.version == client.version; });
         if (isKnown)
         {
-            RefuseLine(name, number, u"version %1 appears twice"_s.arg(Printable(words.front())));
+            RefuseLine(name, number, u"version %1 appears twice"_s.arg(words.front()));
         }
         clients.push_back(client);
     }

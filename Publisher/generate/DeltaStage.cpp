@@ -150,9 +150,9 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         {
             refusals.ThrowIfAny();
             m_workplace.Warn(path,
-                             hasTarget ? u"ignored: starts from version %1, whose archive is not in the folder"_s.arg(
-                                             Printable(start))
-                                       : u"ignored: makes version %1, which gets no new item"_s.arg(Printable(target)),
+                             hasTarget
+                                 ? u"ignored: starts from version %1, whose archive is not in the folder"_s.arg(start)
+                                 : u"ignored: makes version %1, which gets no new item"_s.arg(target),
                              hasTarget ? u"put that archive into the folder, so that the delta can be verified"_s
                                        : u"remove it; a delta is published together with the version that it makes"_s);
         }
@@ -173,7 +173,7 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
         throw Refusal({path, u"is a second delta from %1 to %2"_s.arg(base.versionText, item.versionText),
                        u"keep one of them"_s});
     }
-    ArchiveSignature const signature = m_workplace.Sign(fileName);
+    ArchiveSignature const signature = m_workplace.Sign(m_workplace.Open(fileName));
     if (!SavesEnough(signature.length, item.LeastBytes()))
     {
         m_workplace.Warn(path, u"ignored: saves less than a tenth of the whole archive"_s,

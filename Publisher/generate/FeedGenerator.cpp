@@ -1,10 +1,9 @@
 #include "Publisher/generate/FeedGenerator.h"
 
+#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/delta/DeltaVerb.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
-#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/generate/PublishedArchives.h"
@@ -18,7 +17,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <climits>
 #include <iterator>
 #include <set>
 
@@ -40,7 +38,7 @@ std::int64_t MomentOfPublication()
     constexpr qint64 LAST_MOMENT = 253402300799; // of the year 9999: no date has more digits
     if (!text.isEmpty() && (!isNumber || seconds < 0 || seconds > LAST_MOMENT))
     {
-        throw Refusal({u"SOURCE_DATE_EPOCH is \"%1\""_s.arg(Printable(QString::fromLocal8Bit(text))),
+        throw Refusal({u"SOURCE_DATE_EPOCH is \"%1\""_s.arg(QString::fromLocal8Bit(text)),
                        u"give the seconds since 1970, or unset it"_s});
     }
     return text.isEmpty() ? QDateTime::currentSecsSinceEpoch() : seconds;
@@ -64,14 +62,13 @@ std::vector<ClientShare> ClientsOf(GenerateRequest const& request)
 }
 
 /// The published feed, or an empty one.
-FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
+FeedContent ReadPublished(QString const& feedFile, ISigner const& key)
 {
     if (!Exists(feedFile))
     {
         return {};
     }
-    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, u"remove old items"_s);
-    return ReadFeedContent(feedFile, bytes, key, ChangedFeed::Refused);
+    return ReadFeedContent(feedFile, ReadFeedFile(feedFile), key, ChangedFeed::Refused);
 }
 
 std::vector<Addition> AdditionsOf(std::vector<NewItem> const& items, PublishedFeed const& feed,
@@ -178,7 +175,7 @@ public:
     ExitStatus Run()
     {
         std::vector<FolderArchive> const archives = ScanFolder(m_workplace.folder);
-        m_published = ReadFeedFile(m_feedFile, m_key);
+        m_published = ReadPublished(m_feedFile, m_key);
         PublishedFeed feed = OpenFeed(QString::fromStdString(m_request.title));
         std::vector<NewItem> items = TakeNew(feed, archives);
         RecompressStage recompressed(m_workplace, archives);
@@ -187,7 +184,7 @@ public:
             recompressed.AddTo(items);
         }
         DeltaStage deltas(m_workplace, feed, archives);
-        deltas.AddTo(items, {m_request.deltaCount, ClientsOf(m_request), EffortOf(m_request.deltaEffort)});
+        deltas.AddTo(items, {m_request.deltaCount, ClientsOf(m_request), m_request.deltaEffort});
         std::stable_sort(items.begin(), items.end(),
                          [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
         if (items.empty() && m_isNew)
@@ -195,14 +192,14 @@ public:
             QStringList const ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
             throw Refusal(
                 {m_workplace.folder,
-                 ignored.isEmpty() ? u"contains no archive"_s
-                                   : u"contains no archive, only "_s + Printable(ignored.join(u", "_s)),
+                 ignored.isEmpty() ? u"contains no archive"_s : u"contains no archive, only "_s + ignored.join(u", "_s),
                  u"put zip or tar archives of bundles there, or installers with .sparkle_guided. or .sparkle_interactive. in their names"_s});
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
-        std::vector<LintFinding> const findings = FindingsOf(bytes);
-        RefuseNewErrors(m_feedFile, m_isNew ? std::vector<LintFinding>() : FindingsOf(m_published.bytes), findings);
+        std::vector<LintFinding> const findings = LintAsPublished(bytes, m_address);
+        RefuseNewErrors(m_feedFile,
+                        m_isNew ? std::vector<LintFinding>() : LintAsPublished(m_published.bytes, m_address), findings);
         m_workplace.RefuseChangedFiles();
         if (m_terms || bytes != m_published.bytes)
         {
@@ -227,15 +224,6 @@ private:
             bytes = WithKeyStatement(m_feedFile, bytes, QString::fromStdString(m_request.keyStatementFile), m_key);
         }
         return PublishedFeed(m_feedFile, bytes, m_address);
-    }
-
-    std::vector<LintFinding> FindingsOf(QByteArray const& bytes) const
-    {
-        LintResult lint = LintFeed(bytes, m_address);
-        std::vector<LintFinding> const more =
-            CheckKeyStatement(bytes, lint.subject.get(), {{}, {}, QDateTime::currentDateTimeUtc()});
-        lint.findings.insert(lint.findings.end(), more.begin(), more.end());
-        return lint.findings;
     }
 
     QString LinkOfFiles() const
@@ -296,8 +284,8 @@ private:
         }
         if (!ignored.isEmpty())
         {
-            m_console.Print(Printable(u"ignored, because they are neither archives nor release notes of one: "_s +
-                                      ignored.join(u", "_s)));
+            m_console.Print(u"ignored, because they are neither archives nor release notes of one: "_s +
+                            ignored.join(u", "_s));
         }
     }
 
@@ -321,10 +309,10 @@ private:
                 Engine::ParseFeed(text.toUtf8(), m_address, written.platform).value_or(Engine::FeedContent()).items;
             if (!read.empty() && read.front().description != item->description)
             {
-                m_workplace.Warn(m_workplace.PathOf(archive.fileName),
-                                 u"the notes next to it differ from those of version %1 in the feed"_s.arg(
-                                     Printable(item->versionString)),
-                                 u"put them into the feed with \"edit-notes\", or ignore this"_s);
+                m_workplace.Warn(
+                    m_workplace.PathOf(archive.fileName),
+                    u"the notes next to it differ from those of version %1 in the feed"_s.arg(item->versionString),
+                    u"put them into the feed with \"edit-notes\", or ignore this"_s);
             }
         }
     }
@@ -390,7 +378,6 @@ std::unique_ptr<ISigner> LoadSecondKey(GenerateRequest const& request, ISigner c
 
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
 {
-    CheckPublicKeys(request.publicKeys);
     std::unique_ptr<ISigner> const signer = LoadSigner(request.signer);
     std::unique_ptr<ISigner> const second = LoadSecondKey(request, *signer);
     FeedRun const preview(request, *signer, second.get(),

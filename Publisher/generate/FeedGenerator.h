@@ -3,6 +3,7 @@
 // and the feed is ready, and the feed is replaced last.
 #pragma once
 
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Publisher/Console.h"
 #include "Publisher/keys/Signer.h"
 
@@ -26,11 +27,11 @@ struct GenerateRequest
     std::string link;                    ///< of a new feed; empty for the address of the files
     int deltaCount = 3;                  ///< how many versions before the newest get a delta to it
     std::string clientsFile;             ///< with the shares for the choice of these; empty for the newest ones
-    std::string deltaEffort = "usual";   ///< a name that EffortOf knows
-    std::string keyStatementFile;        ///< of the line that is added to the feed; empty for none
-    bool isRecompressed = false;         ///< new bundles are packed a second time
-    bool isFeedSigned = false;           ///< a feed that has a signature is always signed again
-    int validDays = 30;                  ///< until the feed's signature expires
+    Engine::DeltaEffort deltaEffort = Engine::DeltaEffort::Usual;
+    std::string keyStatementFile; ///< of the line that is added to the feed; empty for none
+    bool isRecompressed = false;  ///< new bundles are packed a second time
+    bool isFeedSigned = false;    ///< a feed that has a signature is always signed again
+    int validDays = 30;           ///< until the feed's signature expires
 };
 
 /// Writes the feed if there is a new item, and prints the findings of the strictest lint; a finding gives

@@ -1,10 +1,8 @@
 #include "Publisher/Verb.h"
 
 #include "Publisher/Refusal.h"
-#include "Publisher/delta/DeltaVerb.h"
-#include "Publisher/gate/CheckReleaseVerb.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/generate/FeedGenerator.h"
-#include "Publisher/signfeed/SignFeedVerb.h"
 
 namespace Pelnar::Publisher
 {
@@ -33,9 +31,9 @@ void AddGenerate(CLI::App& program, VerbContext& context)
         ->excludes(prefix);
     AddMachineOption(verb, request.machines,
                      "this machine, and every other machine with an archive of the same version");
-    AddPublicKeysOption(verb, request.publicKeys,
-                        "Public key that signed a published download and that no bundle in the folder trusts, in "
-                        "base64; may be repeated");
+    AddKeysOption(verb, "--public-key", request.publicKeys,
+                  "Public key that signed a published download and that no bundle in the folder trusts, in "
+                  "base64; may be repeated");
     verb.add_option("-o,--output", request.feedFile, "Feed to write; default: appcast.xml in the folder")
         ->type_name("FILE");
     verb.add_option("--title", request.title, "Title of a new feed; default: the product's name");

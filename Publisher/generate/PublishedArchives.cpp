@@ -1,7 +1,6 @@
 #include "Publisher/generate/PublishedArchives.h"
 
 #include "Engine/core/bundle/PayloadKind.h"
-#include "Publisher/Progress.h"
 #include "Publisher/gate/ReleaseFiles.h"
 #include "Publisher/keys/KeyId.h"
 
@@ -37,8 +36,6 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     QString const path = m_workplace.PathOf(published.archive.fileName);
     InputFile const file = m_workplace.Open(published.archive.fileName);
     CheckLength(file, item);
-    Progress bar(m_workplace.console.err, u"Verifying"_s);
-    bar.Show(0, 1); // the verdict comes immediately
     std::vector<std::string> keys = m_workplace.publicKeys;
     keys.insert(keys.begin(), m_workplace.key.PublicKeyText().toStdString());
     std::optional<std::string> signer = SignerOf(file, item.edSignature, keys);

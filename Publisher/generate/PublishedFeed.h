@@ -1,10 +1,9 @@
 // PublishedFeed.h: a published feed, to which items are added without any other change.
 #pragma once
 
-#include "Engine/core/feed/FeedParser.h"
 #include "HostFramework/Version.h"
+#include "Publisher/files/FeedText.h"
 
-#include <QByteArray>
 #include <QUrl>
 
 #include <set>
@@ -34,7 +33,7 @@ class PublishedFeed
 public:
     /// Reads \a bytes. \a name is for messages, \a address for relative addresses. Throws Refusal if clients cannot
     /// read the feed or nothing can be added to it (not UTF-8, no channel).
-    PublishedFeed(QString name, QByteArray bytes, QUrl const& address);
+    PublishedFeed(QString name, QByteArray const& bytes, QUrl const& address);
 
     QString const& Name() const { return m_name; }
     std::vector<PublishedItem> const& Items() const { return m_items; }
@@ -47,14 +46,13 @@ public:
     QByteArray With(std::vector<Addition> const& additions) const;
 
 private:
-    void FindItems();
-    void TakeItems(Engine::FeedTarget const& target, QUrl const& address);
+    void TakeItems(QByteArray const& bytes, Engine::FeedTarget const& target, QUrl const& address);
+    void FindPlaces(XmlElement const& document);
+    void TakePrefix(XmlElement const& element);
     int PlaceFor(Core::Version const& version) const;
 
     QString m_name;
-    QByteArray m_bytes;
-    QString m_text;
-    bool m_hasMark = false; ///< of the byte order, before the text
+    FeedText m_text;
     QString m_feedPrefix;
     std::vector<PublishedItem> m_items;
     int m_firstItem = -1; ///< the start of its tag; -1 without items

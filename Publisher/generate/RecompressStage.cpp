@@ -2,7 +2,6 @@
 
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/delta/DeltaFile.h"
 #include "Publisher/late/LatePart.h"
 
 #include <algorithm>
@@ -44,7 +43,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     BundleTree const& bundle = *unpacked;
     {
         Progress bar(m_workplace.console.err, u"Packing "_s + fileName);
-        LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));
+        LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, std::ref(bar));
     }
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.signature.length))

@@ -2,7 +2,6 @@
 
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/delta/DeltaFile.h"
 #include "Publisher/keys/KeyId.h"
 
 #include <algorithm>
@@ -55,7 +54,7 @@ std::shared_ptr<BundleTree const> Workplace::Unpack(QString const& fileName) con
     }
     Progress bar(console.err, u"Unpacking "_s + fileName);
     unpacked.emplace_front(fileName,
-                           std::make_shared<BundleTree const>(BundleTree::Unpack(Open(fileName), BarFor(bar))));
+                           std::make_shared<BundleTree const>(BundleTree::Unpack(Open(fileName), std::ref(bar))));
     unpacked.resize(std::min(unpacked.size(), MOST_UNPACKED));
     return unpacked.front().second;
 }
@@ -67,13 +66,6 @@ std::unique_ptr<AtomicFile> Workplace::MakeFile(QString const& fileName) const
         throw Refusal({PathOf(fileName), u"exists already"_s, u"remove it"_s});
     }
     return std::make_unique<AtomicFile>(PathOf(fileName));
-}
-
-ArchiveSignature Workplace::Sign(QString const& fileName) const
-{
-    Progress bar(console.err, u"Signing "_s + fileName);
-    bar.Show(0, 1); // the signature is made immediately
-    return Sign(Open(fileName));
 }
 
 ArchiveSignature Workplace::Sign(InputFile const& archive) const

@@ -46,7 +46,6 @@ struct Workplace
     std::shared_ptr<BundleTree const> Unpack(QString const& fileName) const;
     /// A file that gets the name \a fileName later. Throws Refusal if there is one.
     std::unique_ptr<AtomicFile> MakeFile(QString const& fileName) const;
-    ArchiveSignature Sign(QString const& fileName) const;
     ArchiveSignature Sign(InputFile const& archive) const;
     /// Prints a problem that does not prevent the feed.
     void Warn(QString const& path, QString const& what, QString const& mend) const;

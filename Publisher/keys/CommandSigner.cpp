@@ -36,7 +36,7 @@ QStringList WordsOf(QString const& command)
     std::unique_ptr<wordexp_t, void (*)(wordexp_t*)> const owner(&words, &::wordfree);
     if (fault != 0)
     {
-        RefuseSigner(u"\"%1\" is not a single command"_s.arg(Printable(command.left(200))),
+        RefuseSigner(u"\"%1\" is not a single command"_s.arg(command.left(200)),
                      u"close every quote, set every variable, and put pipes into a script"_s);
     }
     QStringList texts;
@@ -118,9 +118,9 @@ CommandSigner::CommandSigner(QString const& command, std::string publicKey)
     if (KeyIdOf(m_publicKey).isEmpty())
     {
         throw Refusal({u"--signer-key"_s,
-                       m_publicKey.empty() ? u"is required with --signer"_s
-                                           : u"\"%1\" is not an Ed25519 key"_s.arg(
-                                                 Printable(QString::fromStdString(m_publicKey).left(60))),
+                       m_publicKey.empty()
+                           ? u"is required with --signer"_s
+                           : u"\"%1\" is not an Ed25519 key"_s.arg(QString::fromStdString(m_publicKey).left(60)),
                        u"give the public key of the program that signs, 32 bytes in base64"_s});
     }
 }

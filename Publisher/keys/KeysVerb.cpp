@@ -1,9 +1,8 @@
 // KeysVerb.cpp: "keys": makes, shows and exports the key that signs archives.
 
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/keys/SigningKey.h"
-
-#include <map>
 
 namespace Pelnar::Publisher
 {
@@ -20,31 +19,27 @@ enum class PublicKeyForm
     Bare,
 };
 
-QString EntryOf(QString const& publicKey, PublicKeyForm form)
+QStringList EntryOf(QString const& publicKey, PublicKeyForm form)
 {
     switch (form)
     {
     case PublicKeyForm::Xml:
-        return u"<key>SUPublicEDKey</key>\n<string>%1</string>"_s.arg(publicKey);
+        return {u"<key>SUPublicEDKey</key>"_s, u"<string>%1</string>"_s.arg(publicKey)};
     case PublicKeyForm::Gnustep:
-        return u"SUPublicEDKey = \"%1\";"_s.arg(publicKey);
+        return {u"SUPublicEDKey = \"%1\";"_s.arg(publicKey)};
     case PublicKeyForm::Bare:
         break;
     }
-    return publicKey;
+    return {publicKey};
 }
 
 /// Adds the option for the form of the public key.
 void AddFormOption(CLI::App& verb, PublicKeyForm& form)
 {
-    static std::map<std::string, PublicKeyForm> const FORMS = {
-        {"xml", PublicKeyForm::Xml}, {"gnustep", PublicKeyForm::Gnustep}, {"bare", PublicKeyForm::Bare}};
-    verb.add_option_function<std::string>(
-            "--format", [&form](std::string const& name) { form = FORMS.at(name); },
-            "Form of the public key: an entry for an XML information file, an entry for a GNUstep file, or the key "
-            "alone")
-        ->check(CLI::IsMember({"xml", "gnustep", "bare"}))
-        ->default_str("xml");
+    AddChoiceOption<PublicKeyForm>(
+        verb, "--format", form,
+        {{"xml", PublicKeyForm::Xml}, {"gnustep", PublicKeyForm::Gnustep}, {"bare", PublicKeyForm::Bare}},
+        "Form of the public key: an entry for an XML information file, an entry for a GNUstep file, or the key alone");
 }
 
 struct KeyOptions
@@ -90,7 +85,7 @@ void AddShow(CLI::App& keys, VerbContext& context)
 struct ExportOptions
 {
     std::string file;
-    std::string form = "seed";
+    KeyForm form = KeyForm::Seed;
     bool isTerminalWanted = false;
 };
 
@@ -102,7 +97,7 @@ ExitStatus Export(ExportOptions const& options, Console const& console)
         return console.Refuse({u"the private key would be visible on this terminal"_s,
                                u"send the output to another program or a file, or add --to-terminal"_s});
     }
-    SecretBytes const text = key.SecretText(options.form == "seed" ? KeyForm::Seed : KeyForm::SecretKey);
+    SecretBytes const text = key.SecretText(options.form);
     console.out.stream.write(reinterpret_cast<char const*>(text.Data()), std::streamsize(text.Size() - 1));
     return ExitStatus::Clean;
 }
@@ -112,10 +107,9 @@ void AddExport(CLI::App& keys, VerbContext& context)
     auto const [verb, options] = AddVerb<ExportOptions>(
         keys, context, "export", "Print the private key, for a backup or another program", Export);
     verb.add_option("FILE", options.file, KEY_FILE_HELP)->required();
-    verb.add_option("--form", options.form,
-                    "Form of the private key: 32 bytes (seed), or 64 bytes with the public key (secret-key), in base64")
-        ->check(CLI::IsMember({"seed", "secret-key"}))
-        ->capture_default_str();
+    AddChoiceOption<KeyForm>(
+        verb, "--form", options.form, {{"seed", KeyForm::Seed}, {"secret-key", KeyForm::SecretKey}},
+        "Form of the private key: 32 bytes (seed), or 64 bytes with the public key (secret-key), in base64");
     verb.add_flag("--to-terminal", options.isTerminalWanted, "Print it even if standard output is a terminal");
 }
 

@@ -1,7 +1,7 @@
 // RotateVerb.cpp: "keys rotate": the progress of a feed from one signing key to another, and the next step.
 
-#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/KeyId.h"
 #include "Publisher/signfeed/FeedSigner.h"
@@ -140,16 +140,14 @@ void AddRotate(CLI::App& keys, VerbContext& context)
         "must be gone before it",
         Rotate);
     AddFeedOption(verb, options.feed);
-    auto const isKey = [](std::string const& text)
-    { return Engine::KeyIdOf(text).empty() ? text + " is not an Ed25519 key" : std::string(); };
     verb.add_option("--from", options.oldKey, "The old public key, which signs until now, in base64")
         ->required()
         ->type_name("KEY")
-        ->check(isKey);
+        ->check(FaultOfKey);
     verb.add_option("--to", options.newKey, "The new public key, in base64")
         ->required()
         ->type_name("KEY")
-        ->check(isKey);
+        ->check(FaultOfKey);
     AddPlatformOption(verb, options.platform);
 }
 

@@ -1,7 +1,6 @@
 // SignVerbs.cpp: "sign" and "verify": makes the signature of an archive, and verifies one with the code of clients.
 
 #include "Engine/core/bundle/TrustedKeys.h"
-#include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
 #include "Publisher/keys/Signer.h"
@@ -29,8 +28,6 @@ ExitStatus Sign(SignOptions const& options, Console const& console)
 {
     InputFile const archive = OpenInputFile(QString::fromStdString(options.archive));
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
-    Progress bar(console.err, u"Signing"_s);
-    bar.Show(0, 1); // the signature is made immediately
     console.Print(AttributesOf(signer->Sign(archive)));
     return ExitStatus::Clean;
 }

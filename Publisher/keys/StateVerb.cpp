@@ -3,6 +3,7 @@
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/KeyStatement.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/keys/KeyId.h"
 #include "Publisher/keys/Signer.h"
 
@@ -34,10 +35,9 @@ std::vector<std::string> IdsOf(std::vector<std::string> const& texts)
         ids.push_back(Engine::IsKeyId(text) ? text : Engine::KeyIdOf(text));
         if (ids.back().empty())
         {
-            throw Refusal(
-                {u"--revoke"_s,
-                 u"\"%1\" is neither a key nor the id of one"_s.arg(Printable(QString::fromStdString(text).left(60))),
-                 u"give the public key in base64, or the 16 digits of its id"_s});
+            throw Refusal({u"--revoke"_s,
+                           u"\"%1\" is neither a key nor the id of one"_s.arg(QString::fromStdString(text).left(60)),
+                           u"give the public key in base64, or the 16 digits of its id"_s});
         }
     }
     return ids;
@@ -77,7 +77,7 @@ void AddState(CLI::App& keys, VerbContext& context)
                                                   "Declare with the root key which signing keys are valid and which "
                                                   "are revoked. Prints the line for the feed; needs no network",
                                                   State);
-    AddSignerOptions(verb, options.root, ", of the root key");
+    AddSignerOptions(verb, options.root, ". It is the root key");
     verb.add_option("--serial", options.serial, "Serial number of the statement, greater than that of the last one")
         ->required()
         ->type_name("NUMBER");
@@ -85,10 +85,8 @@ void AddState(CLI::App& keys, VerbContext& context)
         ->required()
         ->allow_extra_args(false)
         ->type_name("IDENTIFIER");
-    verb.add_option("--valid", options.validKeys, "Public key that is valid, in base64; may be given twice")
-        ->required()
-        ->allow_extra_args(false)
-        ->type_name("KEY");
+    AddKeysOption(verb, "--valid", options.validKeys, "Public key that is valid, in base64; may be given twice")
+        .required();
     verb.add_option("--revoke", options.revoked, "Public key that is revoked forever, or its id; may be repeated")
         ->allow_extra_args(false)
         ->type_name("KEY");

@@ -2,7 +2,6 @@
 
 #include "Publisher/late/LatePart.h"
 #include "Publisher/late/ZstdTar.h"
-#include "Publisher/serve/Serving.h"
 
 #include <QEventLoop>
 

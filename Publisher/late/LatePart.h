@@ -24,7 +24,7 @@ struct LatePart
     Engine::FetchOutcome (*fetchFeed)(QUrl const& address);
     Engine::DownloadOutcome (*download)(Engine::DownloadRequest const& request,
                                         std::function<void(Engine::DownloadProgress const&)> const& progress);
-    /// Serves until it is interrupted. Throws Refusal.
+    /// Serve.
     ExitStatus (*serve)(Console const& console, ServeOptions const& options);
     /// WriteZstdTar.
     void (*writeZstdTar)(BundleTree const& bundle, std::int64_t time, int fd, QString const& name,

@@ -15,7 +15,6 @@
 #include <archive_entry.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <zstd.h>
 
 namespace Pelnar::Publisher

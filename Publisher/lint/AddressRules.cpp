@@ -3,7 +3,6 @@
 #include "Engine/core/fetch/AddressReach.h"
 #include "Publisher/Console.h"
 #include "Publisher/choice/ClientInstallation.h"
-#include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QHash>
@@ -70,9 +69,9 @@ bool IsWebPage(LintDownload const& download)
 void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFindings& findings)
 {
     QUrl const& url = download.item->fileUrl;
-    if (IsOfThisDisk(WrittenAddress(download)))
+    if (IsOfThisDisk(download.WrittenAddress()))
     {
-        findings.Add(LintRule::LocalAddress, download.Place(), WrittenAddress(download));
+        findings.Add(LintRule::LocalAddress, download.Place(), download.WrittenAddress());
         return;
     }
     if (url.isEmpty() || url.isLocalFile())
@@ -91,11 +90,11 @@ void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFi
 }
 
 /// Addresses in texts: in the markup of the notes, and in their link.
-void CheckNotesAddresses(LintElement const& item, LintFindings& findings)
+void CheckNotesAddresses(XmlElement const& item, LintFindings& findings)
 {
     static QRegularExpression const LINK(u"(?:href|src)\\s*=\\s*[\"']?\\s*(file:[^\"'\\s>]*)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
-    for (LintElement const& child : item.children)
+    for (XmlElement const& child : item.children)
     {
         bool const isLink = child.name.IsPlain("link") || child.name.IsFeeds("releaseNotesLink") ||
                             child.name.IsFeeds("fullReleaseNotesLink");
@@ -161,9 +160,9 @@ void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& find
 
 } // namespace
 
-QString WrittenAddress(LintDownload const& download)
+QString LintDownload::WrittenAddress() const
 {
-    return download.enclosure ? download.enclosure->PlainAttribute("url").value_or(QString()).trimmed() : QString();
+    return enclosure ? enclosure->PlainAttribute("url").value_or(QString()).trimmed() : QString();
 }
 
 bool IsOfThisDisk(QString const& text)
@@ -176,7 +175,7 @@ bool IsOfThisDisk(QString const& text)
 
 void CheckAddresses(LintSubject const& subject, LintFindings& findings)
 {
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         CheckNotesAddresses(*item, findings);
     }

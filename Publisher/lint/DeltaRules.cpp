@@ -22,15 +22,15 @@ bool IsSame(QString const& textA, QString const& textB)
 }
 
 /// The parser omits such a delta.
-void CheckStarts(LintElement const& item, LintFindings& findings)
+void CheckStarts(XmlElement const& item, LintFindings& findings)
 {
-    for (LintElement const& deltas : item.children)
+    for (XmlElement const& deltas : item.children)
     {
         if (!deltas.name.IsFeeds("deltas"))
         {
             continue;
         }
-        for (LintElement const& enclosure : deltas.children)
+        for (XmlElement const& enclosure : deltas.children)
         {
             if (enclosure.name.IsPlain("enclosure") && !enclosure.FeedAttribute("deltaFrom"))
             {
@@ -96,7 +96,7 @@ void CheckRepetitions(LintItem const& item, LintFindings& findings)
 
 void CheckDeltas(LintSubject const& subject, LintFindings& findings)
 {
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         CheckStarts(*item, findings);
     }

@@ -4,7 +4,6 @@
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/fetch/FetchRules.h"
-#include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>
@@ -30,7 +29,7 @@ bool IsLocalFile(QUrl const& url)
 }
 
 /// For an address that is present.
-void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindings& findings)
+void CheckAddress(QUrl const& url, TextPlace place, QUrl const& feed, LintFindings& findings)
 {
     QString const text = Shortened(url.toString(QUrl::FullyEncoded));
     bool const isHttp = url.scheme() == "http"_l;
@@ -61,8 +60,8 @@ void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindin
 /// For an address that clients treat as missing.
 void CheckMissingAddress(LintDownload const& download, QUrl const& feed, LintFindings& findings)
 {
-    QString const text = download.enclosure ? download.enclosure->PlainAttribute("url").value_or(QString()) : QString();
-    if (feed.resolved(QUrl(text.trimmed())).toEncoded().size() > MAX_ADDRESS_CHARACTERS)
+    QString const text = download.WrittenAddress();
+    if (feed.resolved(QUrl(text)).toEncoded().size() > MAX_ADDRESS_CHARACTERS)
     {
         findings.Add(LintRule::AddressTooLong, download.Place(), Shortened(text));
         return;
@@ -128,8 +127,8 @@ void CheckDate(LintItem const& item, LintFindings& findings)
     {
         return;
     }
-    LintElement const* const date = item.full.element->PlainChild("pubDate");
-    LintPlace const place = date ? date->place : item.full.element->place;
+    XmlElement const* const date = item.full.element->PlainChild("pubDate");
+    TextPlace const place = date ? date->place : item.full.element->place;
     if (QDate::fromString(text, Qt::TextDate).isValid())
     {
         findings.Add(LintRule::DateTextForm, place, u"the date is \"%1\""_s.arg(Shortened(text)));
@@ -143,15 +142,12 @@ void CheckDate(LintItem const& item, LintFindings& findings)
 void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings& findings)
 {
     QUrl const& url = download.item->fileUrl;
-    if (IsOfThisDisk(WrittenAddress(download)))
-    {
-        // Another rule reports this.
-    }
-    else if (url.isEmpty())
+    bool const isReported = IsOfThisDisk(download.WrittenAddress()); // by another rule
+    if (url.isEmpty() && !isReported)
     {
         CheckMissingAddress(download, feed, findings);
     }
-    else
+    else if (!isReported)
     {
         CheckAddress(url, download.Place(), feed, findings);
     }

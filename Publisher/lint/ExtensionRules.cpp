@@ -31,7 +31,7 @@ enum class NamePlace
     Elsewhere,
 };
 
-void CheckName(LintName const& name, NamePlace where, LintPlace place, LintFindings& findings)
+void CheckName(XmlName const& name, NamePlace where, TextPlace place, LintFindings& findings)
 {
     if (IsAlmostExtension(name.local))
     {
@@ -58,7 +58,7 @@ class ExtensionCheck
 public:
     explicit ExtensionCheck(LintFindings& findings) : m_findings(findings) {}
 
-    void Visit(LintElement const& element, LintElement const* parent, LintElement const* grandParent)
+    void Visit(XmlElement const& element, XmlElement const* parent, XmlElement const* grandParent)
     {
         bool const isInItem = parent && parent->name.IsPlain("item");
         CheckName(element.name, isInItem ? NamePlace::ItemChild : NamePlace::Elsewhere, element.place, m_findings);
@@ -67,7 +67,7 @@ public:
         NamePlace const where = isDelta                        ? NamePlace::DeltaAttribute
                                 : element.name.IsPlain("item") ? NamePlace::ItemAttribute
                                                                : NamePlace::Elsewhere;
-        for (LintAttribute const& attribute : element.attributes)
+        for (XmlAttribute const& attribute : element.attributes)
         {
             CheckName(attribute.name, where, element.place, m_findings);
         }
@@ -75,24 +75,24 @@ public:
         {
             CheckValues(element);
         }
-        for (LintElement const& child : element.children)
+        for (XmlElement const& child : element.children)
         {
             Visit(child, &element, parent);
         }
     }
 
 private:
-    void CheckValues(LintElement const& item)
+    void CheckValues(XmlElement const& item)
     {
         std::map<QString, QString> nameOfKey;
-        for (LintElement const& child : item.children)
+        for (XmlElement const& child : item.children)
         {
             if (child.name.namespaceUri.isEmpty() && IsExtension(child.name.local))
             {
                 CheckValue(child, nameOfKey);
             }
         }
-        for (LintAttribute const& attribute : item.attributes)
+        for (XmlAttribute const& attribute : item.attributes)
         {
             if (attribute.name.namespaceUri.isEmpty() && IsExtension(attribute.name.local))
             {
@@ -101,7 +101,7 @@ private:
         }
     }
 
-    void CheckValue(LintElement const& extension, std::map<QString, QString>& nameOfKey)
+    void CheckValue(XmlElement const& extension, std::map<QString, QString>& nameOfKey)
     {
         QString const& name = extension.name.local;
         bool const isRepeated = CheckKey(name, extension.place, nameOfKey);
@@ -113,7 +113,7 @@ private:
     }
 
     /// \return whether the same name was seen before
-    bool CheckKey(QString const& name, LintPlace place, std::map<QString, QString>& nameOfKey)
+    bool CheckKey(QString const& name, TextPlace place, std::map<QString, QString>& nameOfKey)
     {
         auto const [entry, isNew] = nameOfKey.emplace(name.toUpper(), name);
         if (!isNew && entry->second != name)
@@ -141,7 +141,7 @@ void CheckRelaunchPath(LintDownload const& download, LintFindings& findings)
 void CheckExtensions(LintSubject const& subject, LintFindings& findings)
 {
     ExtensionCheck check(findings);
-    for (LintElement const& element : subject.root.children)
+    for (XmlElement const& element : subject.root.children)
     {
         check.Visit(element, nullptr, nullptr);
     }

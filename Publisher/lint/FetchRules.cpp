@@ -94,8 +94,8 @@ private:
         bool const isLength = error.cause == ErrorCause::DownloadLengthDiffers;
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
                u"%1, with %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded),
-                                                        QString::number(download.item->contentLength),
-                                                        WithoutFullStop(error.sentence.English())));
+                                                          QString::number(download.item->contentLength),
+                                                          WithoutFullStop(error.sentence.English())));
     }
 
     void CheckSignature(LintDownload const& download, int descriptor)
@@ -151,9 +151,9 @@ class NotesFetch
 public:
     explicit NotesFetch(LintFindings& findings) : m_findings(findings) {}
 
-    void Check(LintElement const& item, QUrl const& feed)
+    void Check(XmlElement const& item, QUrl const& feed)
     {
-        for (LintElement const& child : item.children)
+        for (XmlElement const& child : item.children)
         {
             bool const isLink = child.name.IsFeeds("releaseNotesLink") || child.name.IsFeeds("fullReleaseNotesLink");
             QUrl const address = isLink ? feed.resolved(QUrl(child.text.trimmed())) : QUrl();
@@ -165,7 +165,7 @@ public:
     }
 
 private:
-    void Fetch(LintElement const& link, QUrl const& address)
+    void Fetch(XmlElement const& link, QUrl const& address)
     {
         // Deliberate: any address and any page is accepted. The only question is whether a page arrives.
         Engine::FetchOutcome const outcome = FetchAddress(address);
@@ -189,7 +189,7 @@ std::vector<LintFinding> CheckArchives(LintSubject const& subject, std::vector<s
     LintFindings findings;
     ArchiveCheck check(publicKeys, console, findings);
     NotesFetch notes(findings);
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         notes.Check(*item, subject.address);
     }

@@ -89,9 +89,8 @@ void CheckFeedSigner(QByteArray const& bytes, Engine::TrustedKeys const& valid, 
     if (feed.fault == Engine::SignedFeedFault::None &&
         Engine::VerifySignature(content, feed.signature, valid) != Engine::UpdateFault::None)
     {
-        findings.Add(
-            LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
-            u"no valid key signed the feed itself; valid keys: %1"_s.arg(TextOf(KeyIdsOf(valid))));
+        findings.Add(LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
+                     u"no valid key signed the feed itself; valid keys: %1"_s.arg(TextOf(KeyIdsOf(valid))));
     }
 }
 
@@ -103,7 +102,7 @@ qint64 FeedSerialOf(QByteArray const& bytes)
 }
 
 /// What clients of the feed \a before remember when they read this feed.
-void CheckSerials(QByteArray const& bytes, QByteArray const& before, LintPlace place, LintFindings& findings)
+void CheckSerials(QByteArray const& bytes, QByteArray const& before, TextPlace place, LintFindings& findings)
 {
     std::optional<PlacedStatement> const past = StatementIn(before);
     std::optional<PlacedStatement> const now = StatementIn(bytes);
@@ -123,7 +122,7 @@ void CheckSerials(QByteArray const& bytes, QByteArray const& before, LintPlace p
     }
 }
 
-void CheckSignature(Engine::SignedKeyStatement const& line, std::vector<std::string> const& rootKeys, LintPlace place,
+void CheckSignature(Engine::SignedKeyStatement const& line, std::vector<std::string> const& rootKeys, TextPlace place,
                     LintFindings& findings)
 {
     bool const isSigned =
@@ -145,7 +144,7 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
     auto const found = Engine::FindKeyStatement(bytes);
     bool const isMissing = !found && found.error().cause == Engine::ErrorCause::KeyStatementMissing;
     std::optional<PlacedStatement> const placed = StatementIn(bytes);
-    LintPlace const place = PlaceOf(bytes, bytes.indexOf("<!-- pelnar-keys:"));
+    TextPlace const place = PlaceOf(bytes, bytes.indexOf("<!-- pelnar-keys:"));
     if (!question.previousFeed.isEmpty())
     {
         CheckSerials(bytes, question.previousFeed, place, findings);
@@ -180,6 +179,15 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
         CheckItems(*subject, KeyIdsOf(placed->statement.validKeys), findings);
     }
     return findings.Sorted();
+}
+
+std::vector<LintFinding> LintAsPublished(QByteArray const& bytes, QUrl const& address)
+{
+    LintResult lint = LintFeed(bytes, address);
+    std::vector<LintFinding> const more =
+        CheckKeyStatement(bytes, lint.subject.get(), {{}, {}, QDateTime::currentDateTimeUtc()});
+    lint.findings.insert(lint.findings.end(), more.begin(), more.end());
+    return lint.findings;
 }
 
 std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const& subject)

@@ -21,6 +21,9 @@ struct KeyStatementQuestion
 std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject const* subject,
                                            KeyStatementQuestion const& question);
 
+/// The findings of "lint" without options for the feed that is published at \a address.
+std::vector<LintFinding> LintAsPublished(QByteArray const& bytes, QUrl const& address);
+
 /// Findings that are correct during a change of keys and are mistakes otherwise.
 std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const& subject);
 

@@ -85,7 +85,7 @@ void PrintGroupedFindings(QString const& feed, std::vector<LintFinding> const& f
             console.Print(u"    and in %1 %2"_s.arg(lines.size() == 1 ? u"line"_s : u"lines"_s, lines.join(u", "_s)));
         }
     }
-    console.Print(Printable(u"%1: %2"_s.arg(feed, SummaryOf(findings))));
+    console.Print(u"%1: %2"_s.arg(feed, SummaryOf(findings)));
 }
 
 QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> const& feeds)
@@ -128,7 +128,7 @@ void PrintFindings(QString const& feed, std::vector<LintFinding> const& findings
     {
         PrintFinding(feed, finding, console);
     }
-    console.Print(Printable(u"%1: %2"_s.arg(feed, SummaryOf(findings))));
+    console.Print(u"%1: %2"_s.arg(feed, SummaryOf(findings)));
 }
 
 QJsonObject JsonOf(QString const& feed, std::vector<LintFinding> const& findings)

@@ -39,16 +39,16 @@ LintFinding FindingOf(Engine::FeedParseError const& error)
     return {RuleOf(error.cause), {error.line, error.column}, WithoutFullStop(what)};
 }
 
-QStringList MachinesOf(LintElement const& enclosure)
+QStringList MachinesOf(XmlElement const& enclosure)
 {
     return enclosure.OwnAttribute("machine").value_or(QString()).simplified().split(u' ', Qt::SkipEmptyParts);
 }
 
 /// The item that the parser takes.
-LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement const& item)
+XmlElement const* EnclosureFor(Engine::FeedTarget const& target, XmlElement const& item)
 {
-    LintElement const* best = nullptr;
-    for (LintElement const& child : item.children)
+    XmlElement const* best = nullptr;
+    for (XmlElement const& child : item.children)
     {
         std::optional<QString> const system = child.FeedAttribute("os");
         bool const isForPlatform =
@@ -62,12 +62,12 @@ LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement co
 }
 
 /// Empty for the parsing without a machine; then each machine that the downloads of an item name.
-QStringList MachinesIn(std::vector<LintElement const*> const& items)
+QStringList MachinesIn(std::vector<XmlElement const*> const& items)
 {
     QStringList named;
-    for (LintElement const* const item : items)
+    for (XmlElement const* const item : items)
     {
-        for (LintElement const& child : item->children)
+        for (XmlElement const& child : item->children)
         {
             named += MachinesOf(child);
         }
@@ -82,15 +82,15 @@ QStringList MachinesIn(std::vector<LintElement const*> const& items)
 }
 
 /// The element below \a element whose place the parser reports for \a item.
-LintElement const* FindElement(LintElement const& element, Engine::FeedItem const& item)
+XmlElement const* FindElement(XmlElement const& element, Engine::FeedItem const& item)
 {
-    for (LintElement const& child : element.children)
+    for (XmlElement const& child : element.children)
     {
-        if (child.parserLine == item.line && child.parserColumn == item.column)
+        if (child.IsSourceOf(item))
         {
             return &child;
         }
-        if (LintElement const* const found = FindElement(child, item))
+        if (XmlElement const* const found = FindElement(child, item))
         {
             return found;
         }
@@ -98,13 +98,13 @@ LintElement const* FindElement(LintElement const& element, Engine::FeedItem cons
     return nullptr;
 }
 
-LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, Engine::FeedTarget const& target)
+LintItem LinkItem(Engine::FeedItem const& item, XmlElement const& element, Engine::FeedTarget const& target)
 {
     LintItem linked;
     linked.full = {&item, &element, EnclosureFor(target, element)};
     for (Engine::FeedItem const& delta : item.deltas)
     {
-        if (LintElement const* const enclosure = FindElement(element, delta))
+        if (XmlElement const* const enclosure = FindElement(element, delta))
         {
             linked.deltas.push_back({&delta, enclosure, enclosure});
         }
@@ -122,8 +122,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, Engine::FeedTarg
     {
         // Both lists are in the order of the feed. The parser omits items of other platforms.
         element = std::find_if(element, subject.itemElements.end(),
-                               [&](LintElement const* each)
-                               { return each->parserLine == item.line && each->parserColumn == item.column; });
+                               [&](XmlElement const* each) { return each->IsSourceOf(item); });
         if (element == subject.itemElements.end())
         {
             return;
@@ -133,15 +132,15 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, Engine::FeedTarg
 }
 
 /// A prefix that should be bound to the feed's namespace but is bound to another one.
-bool IsWrong(LintNamespace const& declared)
+bool IsWrong(XmlNamespace const& declared)
 {
     bool const isAlmost = declared.uri.contains("xml-namespaces/sparkle"_l, Qt::CaseInsensitive);
     return !IsFeedNamespaceUri(declared.uri) && !declared.uri.isEmpty() && (isAlmost || declared.prefix == "sparkle"_l);
 }
 
-void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, LintFindings& findings)
+void FindWrongNamespaces(XmlElement const& element, std::set<QString>& uris, LintFindings& findings)
 {
-    for (LintNamespace const& declared : element.namespaces)
+    for (XmlNamespace const& declared : element.namespaces)
     {
         if (IsWrong(declared) && uris.insert(declared.uri).second)
         {
@@ -149,7 +148,7 @@ void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, Li
                          u"the prefix %1 is bound to \"%2\""_s.arg(declared.prefix, declared.uri));
         }
     }
-    for (LintElement const& child : element.children)
+    for (XmlElement const& child : element.children)
     {
         FindWrongNamespaces(child, uris, findings);
     }
@@ -164,7 +163,7 @@ QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
         return bytes;
     }
     std::set<QString> uris;
-    FindWrongNamespaces(ReadLintDocument(bytes), uris, findings);
+    FindWrongNamespaces(ReadFeedDocument(bytes), uris, findings);
     QByteArray const right = Engine::FEED_NAMESPACE;
     for (QString const& uri : uris)
     {
@@ -178,7 +177,7 @@ QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
 
 } // namespace
 
-void LintFindings::Add(LintRule rule, LintPlace place, QString const& what)
+void LintFindings::Add(LintRule rule, TextPlace place, QString const& what)
 {
     // Items for all platforms appear once for each platform, but are checked once.
     if (m_known.emplace(rule, place.line, place.column, what).second)
@@ -221,7 +220,7 @@ LintResult LintFeed(QByteArray const& written, QUrl const& address)
     }
     auto subject = std::make_unique<LintSubject>();
     subject->address = address;
-    subject->root = ReadLintDocument(bytes);
+    subject->root = ReadFeedDocument(bytes);
     subject->itemElements = ItemElements(subject->root);
     for (QString const& machine : MachinesIn(subject->itemElements))
     {
@@ -230,7 +229,7 @@ LintResult LintFeed(QByteArray const& written, QUrl const& address)
     }
     if (subject->itemElements.empty())
     {
-        LintPlace const place =
+        TextPlace const place =
             subject->root.children.empty() ? subject->root.place : subject->root.children.front().place;
         findings.Add(LintRule::NoItems, place, u"the feed has no item"_s);
     }

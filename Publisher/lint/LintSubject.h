@@ -2,7 +2,7 @@
 // items; findings are values.
 #pragma once
 
-#include "Publisher/lint/LintDocument.h"
+#include "Publisher/files/FeedDocument.h"
 #include "Publisher/lint/LintRules.h"
 
 #include <QUrl>
@@ -18,7 +18,7 @@ namespace Pelnar::Publisher
 struct LintFinding
 {
     LintRule rule;
-    LintPlace place;
+    TextPlace place;
     QString what; ///< without a full stop
 };
 
@@ -26,7 +26,7 @@ struct LintFinding
 class LintFindings
 {
 public:
-    void Add(LintRule rule, LintPlace place, QString const& what);
+    void Add(LintRule rule, TextPlace place, QString const& what);
 
     /// In the order of the feed; findings at the same place are in the order of the rules.
     std::vector<LintFinding> Sorted() const;
@@ -40,11 +40,13 @@ private:
 struct LintDownload
 {
     Engine::FeedItem const* item = nullptr;
-    LintElement const* element = nullptr;   ///< of the item; for a delta, its own enclosure
-    LintElement const* enclosure = nullptr; ///< of the item for this platform, or null; for a delta, its own
+    XmlElement const* element = nullptr;   ///< of the item; for a delta, its own enclosure
+    XmlElement const* enclosure = nullptr; ///< of the item for this platform, or null; for a delta, its own
 
     /// The place that findings about the download name.
-    LintPlace Place() const { return enclosure ? enclosure->place : element->place; }
+    TextPlace Place() const { return enclosure ? enclosure->place : element->place; }
+    /// The url attribute without the blanks around it; empty if it is absent.
+    QString WrittenAddress() const;
 };
 
 /// An item of one platform with its deltas.
@@ -69,13 +71,16 @@ struct LintSubject
     LintSubject& operator=(LintSubject const&) = delete;
 
     QUrl address;
-    LintElement root;
-    std::vector<LintElement const*> itemElements; ///< of all platforms
+    XmlElement root;
+    std::vector<XmlElement const*> itemElements; ///< of all platforms
     std::vector<LintPlatform> platforms;
 };
 
 /// "item 5.1", "the delta from 5.0": the start of a finding.
 QString NameOf(Engine::FeedItem const& item);
+
+/// True for an address that only the publisher's computer can resolve, such as "file:///a", "/home/me/a" or "C:\a".
+[[nodiscard]] bool IsOfThisDisk(QString const& text);
 
 // The groups of rules. They are independent of each other.
 void CheckNames(LintSubject const& subject, LintFindings& findings);

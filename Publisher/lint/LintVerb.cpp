@@ -1,10 +1,8 @@
 #include "Publisher/Verb.h"
 
-#include "Publisher/FeedOptions.h"
-#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/files/InputFile.h"
-#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/lint/FetchRules.h"
 #include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
@@ -56,8 +54,6 @@ void CheckOptions(LintOptions const& options)
     {
         throw Refusal({u"--published-at and --previous need exactly one feed"_s, mend});
     }
-    CheckPublicKeys(options.publicKeys);
-    CheckPublicKeys(options.rootKeys);
 }
 
 KnownFindings ReadBaseline(std::string const& path)
@@ -107,7 +103,7 @@ std::size_t TakeOutKnown(FeedFindings& feed, KnownFindings& known)
 
 FeedBytes Read(std::string const& name, LintOptions const& options, Console const& console)
 {
-    return Need(ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console));
+    return ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console);
 }
 
 FeedFindings LintOne(std::string const& name, LintOptions const& options, Console const& console)
@@ -203,14 +199,12 @@ void AddLint(CLI::App& program, VerbContext& context)
     AddPublishedAtOption(verb, options.publishedAt);
     verb.add_flag("--fetch", options.isFetching, "Fetch every download, and check its size and signature");
     verb.add_flag("--signed", options.isSignatureAsked, "Require a signature of the feed itself, as some clients do");
-    AddPublicKeysOption(
-        verb, options.publicKeys,
+    AddKeysOption(
+        verb, "--public-key", options.publicKeys,
         "Public key that verifies the signatures of the feed and of fetched downloads, in base64; may be repeated");
-    verb.add_option("--root-public-key", options.rootKeys,
-                    "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement signed by it; "
-                    "may be repeated")
-        ->allow_extra_args(false)
-        ->type_name("KEY");
+    AddKeysOption(verb, "--root-public-key", options.rootKeys,
+                  "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement signed by it; "
+                  "may be repeated");
     verb.add_option("--previous", options.previous,
                     "The feed that was published before: no serial may be lower than in it")
         ->type_name("FEED");

@@ -2,10 +2,11 @@
 
 #include "Engine/core/base/SafeText.h"
 #include "Publisher/lint/LintSubject.h"
-#include "Publisher/lint/LintVocabulary.h"
 
+#include <algorithm>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace Pelnar::Publisher
 {
@@ -24,6 +25,91 @@ char const* const SINGLE_PLAIN_ELEMENTS[] = {"pubDate", "link"};
 char const* const SINGLE_FEED_ELEMENTS[] = {"version", "shortVersionString", "minimumSystemVersion",
                                             "maximumSystemVersion"};
 
+/// The names of the feed's namespace.
+constexpr char const* NAMES[] = {"version",
+                                 "shortVersionString",
+                                 "minimumSystemVersion",
+                                 "maximumSystemVersion",
+                                 "releaseNotesLink",
+                                 "fullReleaseNotesLink",
+                                 "deltas",
+                                 "deltaFrom",
+                                 "deltaFromSparkleExecutableSize",
+                                 "deltaFromSparkleLocales",
+                                 "tags",
+                                 "criticalUpdate",
+                                 "channel",
+                                 "phasedRolloutInterval",
+                                 "informationalUpdate",
+                                 "hardwareRequirements",
+                                 "minimumAutoupdateVersion",
+                                 "minimumUpdateVersion",
+                                 "ignoreSkippedUpgradesBelowVersion",
+                                 "belowVersion",
+                                 "edSignature",
+                                 "dsaSignature",
+                                 "installationType",
+                                 "installerArguments",
+                                 "os",
+                                 "format",
+                                 "signature",
+                                 "md5",
+                                 "md5Sum"};
+
+/// The number of letters that must be added, removed, changed or exchanged with a neighbour.
+int Distance(QString const& a, QString const& b)
+{
+    std::vector<std::vector<int>> rows(std::size_t(a.size()) + 1, std::vector<int>(std::size_t(b.size()) + 1));
+    for (int i = 0; i <= a.size(); ++i)
+    {
+        for (int j = 0; j <= b.size(); ++j)
+        {
+            int& best = rows[std::size_t(i)][std::size_t(j)];
+            if (i == 0 || j == 0)
+            {
+                best = i + j;
+                continue;
+            }
+            auto const at = [&](int up, int left) { return rows[std::size_t(i - up)][std::size_t(j - left)]; };
+            best = std::min({at(1, 0) + 1, at(0, 1) + 1, at(1, 1) + (a.at(i - 1) == b.at(j - 1) ? 0 : 1)});
+            if (i > 1 && j > 1 && a.at(i - 1) == b.at(j - 2) && a.at(i - 2) == b.at(j - 1))
+            {
+                best = std::min(best, at(2, 2) + 1);
+            }
+        }
+    }
+    return rows.back().back();
+}
+
+/// The known name that differs from \a local by one or two letters; empty if \a local is known or differs more.
+std::optional<QString> MeantName(QString const& local)
+{
+    constexpr int FEWEST_LETTERS = 4;
+    constexpr int MOST_LETTERS = 40;
+    constexpr int MOST_ERRORS = 2;
+    if (local.size() < FEWEST_LETTERS || local.size() > MOST_LETTERS)
+    {
+        return std::nullopt;
+    }
+    std::optional<QString> nearest;
+    int least = MOST_ERRORS + 1;
+    for (char const* const name : NAMES)
+    {
+        QString const known = QLatin1String(name);
+        if (known.compare(local, Qt::CaseInsensitive) == 0)
+        {
+            return std::nullopt; // another rule reports the case
+        }
+        int const distance = known.size() < FEWEST_LETTERS ? least : Distance(local, known);
+        if (distance < least && distance < known.size() / 2)
+        {
+            least = distance;
+            nearest = known;
+        }
+    }
+    return nearest;
+}
+
 template <std::size_t N>
 char const* OtherCaseOf(QString const& name, char const* const (&known)[N])
 {
@@ -40,14 +126,9 @@ char const* OtherCaseOf(QString const& name, char const* const (&known)[N])
 template <std::size_t N>
 bool IsOneOf(QString const& name, char const* const (&known)[N])
 {
-    for (char const* each : known)
-    {
-        if (name.compare(QLatin1String(each), Qt::CaseInsensitive) == 0)
-        {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(std::begin(known), std::end(known),
+                       [&name](char const* each)
+                       { return name.compare(QLatin1String(each), Qt::CaseInsensitive) == 0; });
 }
 
 class NameCheck
@@ -55,10 +136,10 @@ class NameCheck
 public:
     explicit NameCheck(LintFindings& findings) : m_findings(findings) {}
 
-    void Visit(LintElement const& element, bool isInItem)
+    void Visit(XmlElement const& element, bool isInItem)
     {
         CheckName(element.name, element.place, FEED_ELEMENTS, PLAIN_ELEMENTS, isInItem ? u"<%1>"_s : QString());
-        for (LintAttribute const& attribute : element.attributes)
+        for (XmlAttribute const& attribute : element.attributes)
         {
             if (element.name.IsPlain("enclosure"))
             {
@@ -73,7 +154,7 @@ public:
         // Another rule checks the elements inside a description.
         if (!element.name.IsPlain("description"))
         {
-            for (LintElement const& child : element.children)
+            for (XmlElement const& child : element.children)
             {
                 Visit(child, isInItem || isItem);
             }
@@ -83,7 +164,7 @@ public:
 private:
     /// \a form: how a name is shown that should be in the feed's namespace; empty where it may have no namespace.
     template <std::size_t F, std::size_t P>
-    void CheckName(LintName const& name, LintPlace place, char const* const (&feeds)[F], char const* const (&plain)[P],
+    void CheckName(XmlName const& name, TextPlace place, char const* const (&feeds)[F], char const* const (&plain)[P],
                    QString const& form)
     {
         bool const isFeeds = IsFeedNamespaceUri(name.namespaceUri);
@@ -109,11 +190,11 @@ private:
         }
     }
 
-    void CheckRepetitions(LintElement const& item)
+    void CheckRepetitions(XmlElement const& item)
     {
         std::set<QString> met;
         std::set<QString> platforms;
-        for (LintElement const& child : item.children)
+        for (XmlElement const& child : item.children)
         {
             bool const isSingle =
                 (child.name.namespaceUri.isEmpty() && IsOneOf(child.name.local, SINGLE_PLAIN_ELEMENTS)) ||
@@ -136,7 +217,7 @@ private:
     LintFindings& m_findings;
 };
 
-void CheckText(QString const& text, QString const& name, LintPlace place, LintFindings& findings)
+void CheckText(QString const& text, QString const& name, TextPlace place, LintFindings& findings)
 {
     for (int index = 0; index < text.size();)
     {
@@ -153,14 +234,14 @@ void CheckText(QString const& text, QString const& name, LintPlace place, LintFi
     }
 }
 
-void VisitTexts(LintElement const& element, LintFindings& findings)
+void VisitTexts(XmlElement const& element, LintFindings& findings)
 {
     CheckText(element.text, u"<%1>"_s.arg(element.name.qualified), element.place, findings);
-    for (LintAttribute const& attribute : element.attributes)
+    for (XmlAttribute const& attribute : element.attributes)
     {
         CheckText(attribute.value, attribute.name.qualified, element.place, findings);
     }
-    for (LintElement const& child : element.children)
+    for (XmlElement const& child : element.children)
     {
         VisitTexts(child, findings);
     }
@@ -171,7 +252,7 @@ void VisitTexts(LintElement const& element, LintFindings& findings)
 void CheckNames(LintSubject const& subject, LintFindings& findings)
 {
     NameCheck check(findings);
-    for (LintElement const& element : subject.root.children)
+    for (XmlElement const& element : subject.root.children)
     {
         check.Visit(element, false);
     }
@@ -179,7 +260,7 @@ void CheckNames(LintSubject const& subject, LintFindings& findings)
 
 void CheckTexts(LintSubject const& subject, LintFindings& findings)
 {
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         VisitTexts(*item, findings);
     }

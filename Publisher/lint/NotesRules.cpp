@@ -23,7 +23,7 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
             .refusal;
     if (refusal != ReleaseNotesRefusal::None)
     {
-        LintElement const* const notes = item.full.element->PlainChild("description");
+        XmlElement const* const notes = item.full.element->PlainChild("description");
         findings.Add(LintRule::NotesOverLimits, notes ? notes->place : item.full.element->place,
                      u"the notes of %1: %2"_s.arg(NameOf(parsed), ReasonOf(refusal)));
     }
@@ -36,24 +36,24 @@ void CheckLink(LintItem const& item, LintFindings& findings)
                                             // another rule
     if (!url.isEmpty() && !Engine::IsHttps(url) && !isLocal && !Engine::IsLoopback(url))
     {
-        LintElement const* const link = item.full.element->FeedChild("releaseNotesLink");
+        XmlElement const* const link = item.full.element->FeedChild("releaseNotesLink");
         findings.Add(LintRule::NotesInsecure, link ? link->place : item.full.element->place,
                      url.toString(QUrl::FullyEncoded));
     }
 }
 
 /// If two notes have the same language, clients take the first.
-void CheckLanguages(LintElement const& item, LintFindings& findings)
+void CheckLanguages(XmlElement const& item, LintFindings& findings)
 {
     std::set<QString> met;
-    for (LintElement const& child : item.children)
+    for (XmlElement const& child : item.children)
     {
         if (!child.name.IsPlain("description") && !child.name.IsFeeds("releaseNotesLink"))
         {
             continue;
         }
         QString language;
-        for (LintAttribute const& attribute : child.attributes)
+        for (XmlAttribute const& attribute : child.attributes)
         {
             language = attribute.name.qualified == "xml:lang"_l ? attribute.value.trimmed() : language;
         }
@@ -71,7 +71,7 @@ void CheckLanguages(LintElement const& item, LintFindings& findings)
 
 void CheckNotes(LintSubject const& subject, LintFindings& findings)
 {
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         CheckLanguages(*item, findings);
     }

@@ -23,9 +23,9 @@ using App::Session::IsOlderVersion;
 using App::Session::VersionFromStringNoexcept;
 
 /// Elements that restrict who gets an item, but that clients do not know.
-void CheckPolicies(LintElement const& item, LintFindings& findings)
+void CheckPolicies(XmlElement const& item, LintFindings& findings)
 {
-    for (LintElement const& child : item.children)
+    for (XmlElement const& child : item.children)
     {
         if (child.name.IsFeeds("ignoreSkippedUpgradesBelowVersion"))
         {
@@ -42,7 +42,7 @@ constexpr char const* BOUNDS[] = {"channel", "hardwareRequirements", "minimumUpd
                                   "maximumSystemVersion"};
 
 /// The consequence of an empty \a child of \a parent. Empty if \a child is not a restriction.
-QString EffectOfEmpty(LintElement const& parent, LintElement const& child)
+QString EffectOfEmpty(XmlElement const& parent, XmlElement const& child)
 {
     bool const isOffer =
         std::any_of(std::begin(BOUNDS), std::end(BOUNDS), [&](char const* name) { return child.name.IsFeeds(name); });
@@ -51,7 +51,7 @@ QString EffectOfEmpty(LintElement const& parent, LintElement const& child)
     return isOffer ? u"so everybody gets the item"_s : isVersion ? u"and has no effect"_s : QString();
 }
 
-QString EffectOfEmpty(LintElement const& element, LintName const& attribute)
+QString EffectOfEmpty(XmlElement const& element, XmlName const& attribute)
 {
     bool const isMachine = attribute.IsOwn("machine");
     bool const isVersion = element.name.IsFeeds("criticalUpdate") && attribute.IsFeeds("version");
@@ -59,9 +59,9 @@ QString EffectOfEmpty(LintElement const& element, LintName const& attribute)
 }
 
 /// Empty restrictions in \a parent, probably from an unset variable of a script.
-void CheckEmptyPolicies(LintElement const& parent, LintFindings& findings)
+void CheckEmptyPolicies(XmlElement const& parent, LintFindings& findings)
 {
-    for (LintElement const& child : parent.children)
+    for (XmlElement const& child : parent.children)
     {
         auto const check = [&](QString const& text, QString const& name, QString const& effect)
         {
@@ -72,7 +72,7 @@ void CheckEmptyPolicies(LintElement const& parent, LintFindings& findings)
         };
         QString const name = u'<' + child.name.qualified + u'>';
         check(child.text, name, EffectOfEmpty(parent, child));
-        for (LintAttribute const& attribute : child.attributes)
+        for (XmlAttribute const& attribute : child.attributes)
         {
             check(attribute.value, u"%1 of %2"_s.arg(attribute.name.qualified, name),
                   EffectOfEmpty(child, attribute.name));
@@ -99,7 +99,7 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
     CheckEmptyPolicies(*lintItem.full.element, findings);
     Engine::FeedItem const& item = *lintItem.full.item;
     Engine::ItemPolicy const& policy = item.policy;
-    LintPlace const place = lintItem.full.element->place;
+    TextPlace const place = lintItem.full.element->place;
     auto const add = [&](QString const& what) { findings.Add(LintRule::PolicyUnreadable, place, what); };
     if (!policy.channel.isEmpty() && !Engine::IsChannelName(policy.channel))
     {
@@ -126,7 +126,7 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
 void CheckStaging(LintItem const& lintItem, LintFindings& findings)
 {
     Engine::FeedItem const& item = *lintItem.full.item;
-    for (LintElement const& child : lintItem.full.element->children)
+    for (XmlElement const& child : lintItem.full.element->children)
     {
         if (child.name.IsFeeds("phasedRolloutInterval") && item.policy.rolloutSeconds == 0)
         {
@@ -253,7 +253,7 @@ void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
 
 void CheckOffers(LintSubject const& subject, LintFindings& findings)
 {
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
         CheckPolicies(*item, findings);
     }

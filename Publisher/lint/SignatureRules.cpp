@@ -45,15 +45,15 @@ Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& byte
 }
 
 /// The place of the channel's element with this name; otherwise of the channel, otherwise of the document.
-LintPlace PlaceOf(LintSubject const& subject, char const* name)
+TextPlace PlaceOf(LintSubject const& subject, char const* name)
 {
-    LintPlace place{1, 1};
-    for (LintElement const& top : subject.root.children)
+    TextPlace place{1, 1};
+    for (XmlElement const& top : subject.root.children)
     {
-        for (LintElement const& channel : top.children)
+        for (XmlElement const& channel : top.children)
         {
             place = channel.name.IsPlain("channel") ? channel.place : place;
-            if (LintElement const* const own = channel.OwnChild(name))
+            if (XmlElement const* const own = channel.OwnChild(name))
             {
                 return own->place;
             }
@@ -88,7 +88,7 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
 
 } // namespace
 
-LintPlace PlaceOf(QByteArray const& bytes, int offset)
+TextPlace PlaceOf(QByteArray const& bytes, int offset)
 {
     if (offset < 0)
     {
@@ -104,7 +104,7 @@ std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject
 {
     LintFindings findings;
     Engine::SignedFeed const feed = Engine::SplitSignedFeed(bytes);
-    LintPlace const place = PlaceOf(bytes, feed.blockOffset);
+    TextPlace const place = PlaceOf(bytes, feed.blockOffset);
     if (feed.fault == SignedFeedFault::Missing)
     {
         if (question.wish == FeedSigningWish::Signed)

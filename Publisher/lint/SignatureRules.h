@@ -22,7 +22,7 @@ struct FeedSignatureQuestion
 };
 
 /// The place of the byte at \a offset; the beginning if it is negative.
-LintPlace PlaceOf(QByteArray const& bytes, int offset);
+TextPlace PlaceOf(QByteArray const& bytes, int offset);
 
 /// \a subject is null if clients refuse the document.
 std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject const* subject,

@@ -20,7 +20,7 @@ void CheckBounds(LintItem const& item, LintFindings& findings)
 {
     QString const& minimum = item.full.item->minimumSystemVersion;
     QString const& maximum = item.full.item->maximumSystemVersion;
-    LintPlace const place = item.full.element->place;
+    TextPlace const place = item.full.element->place;
     for (auto const& [name, text] : {std::pair("minimum", minimum), std::pair("maximum", maximum)})
     {
         if (!text.isEmpty() && !VersionFromStringNoexcept(text).IsValid())
@@ -39,7 +39,7 @@ void CheckBounds(LintItem const& item, LintFindings& findings)
     }
 }
 
-void CheckPlatformName(LintElement const& enclosure, LintFindings& findings)
+void CheckPlatformName(XmlElement const& enclosure, LintFindings& findings)
 {
     std::optional<QString> const system = enclosure.FeedAttribute("os");
     bool const isKnown =
@@ -52,12 +52,12 @@ void CheckPlatformName(LintElement const& enclosure, LintFindings& findings)
     }
 }
 
-void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& findings)
+void CheckOrder(std::vector<XmlElement const*> const& items, LintFindings& findings)
 {
-    LintElement const* marked = nullptr;
-    for (LintElement const* item : items)
+    XmlElement const* marked = nullptr;
+    for (XmlElement const* item : items)
     {
-        LintElement const* const enclosure = item->PlainChild("enclosure");
+        XmlElement const* const enclosure = item->PlainChild("enclosure");
         if (!enclosure)
         {
             continue;
@@ -87,9 +87,9 @@ void CheckSystems(LintSubject const& subject, LintFindings& findings)
             CheckBounds(item, findings);
         }
     }
-    for (LintElement const* item : subject.itemElements)
+    for (XmlElement const* item : subject.itemElements)
     {
-        for (LintElement const& child : item->children)
+        for (XmlElement const& child : item->children)
         {
             if (child.name.IsPlain("enclosure"))
             {

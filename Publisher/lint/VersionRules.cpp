@@ -39,7 +39,7 @@ bool Overflows(QString const& text)
 void CheckVersionElement(LintDownload const& download, LintFindings& findings)
 {
     QString const& text = download.item->versionString;
-    LintElement const* const own = download.element->FeedChild("version");
+    XmlElement const* const own = download.element->FeedChild("version");
     if (!download.item->isDelta && own && OrderOfTexts(own->text.trimmed(), text) != 0)
     {
         findings.Add(LintRule::VersionContradiction, own->place,

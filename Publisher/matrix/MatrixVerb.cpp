@@ -1,7 +1,7 @@
 #include "Publisher/Verb.h"
 
-#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/files/InputFile.h"
 #include "Publisher/matrix/Matrix.h"
 
@@ -35,28 +35,12 @@ std::vector<ExpectedCell> ReadExpectation(MatrixOptions const& options)
     return ParseExpectation(name, ReadInputFile(OpenInputFile(name), MOST_BYTES, mend));
 }
 
-/// The versions of \a cells without duplicates, in their order.
-std::vector<NamedVersion> Of(std::vector<ExpectedCell> const& cells, NamedVersion ExpectedCell::*member)
+/// Adds the versions of \a cells that \a versions does not have, in their order.
+Versions With(Versions versions, std::vector<ExpectedCell> const& cells, NamedVersion ExpectedCell::*member)
 {
-    std::vector<NamedVersion> versions;
     for (ExpectedCell const& cell : cells)
     {
         NamedVersion const& version = cell.*member;
-        if (std::none_of(versions.begin(), versions.end(),
-                         [&](NamedVersion const& each) { return each.text == version.text; }))
-        {
-            versions.push_back(version);
-        }
-    }
-    return versions;
-}
-
-/// The versions of the feed, and the expected ones: an item may be gone, but not the clients with its version.
-Versions VersionsOfFeedAnd(std::vector<ExpectedCell> const& expected, std::vector<Engine::FeedItem> const& items)
-{
-    Versions versions = VersionsOfFeed(items);
-    for (NamedVersion const& version : versions.empty() ? Versions() : Of(expected, &ExpectedCell::localVersion))
-    {
         if (std::none_of(versions.begin(), versions.end(),
                          [&](NamedVersion const& each) { return each.text == version.text; }))
         {
@@ -71,11 +55,13 @@ Versions InstalledVersions(MatrixOptions const& options, std::vector<ExpectedCel
 {
     if (options.versions == FROM_FEED)
     {
-        return VersionsOfFeedAnd(expected, items);
+        // An expected item may be gone, but not the clients with its version.
+        Versions const versions = VersionsOfFeed(items);
+        return versions.empty() ? versions : With(versions, expected, &ExpectedCell::localVersion);
     }
     if (options.versions.empty() && !options.expectation.empty())
     {
-        return Of(expected, &ExpectedCell::localVersion);
+        return With({}, expected, &ExpectedCell::localVersion);
     }
     return ParseVersionList(u"--versions"_s, options.versions, ParseLocalVersion);
 }
@@ -84,7 +70,7 @@ Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& 
 {
     if (options.systems.empty() && !options.expectation.empty())
     {
-        return Of(expected, &ExpectedCell::systemVersion);
+        return With({}, expected, &ExpectedCell::systemVersion);
     }
     return ParseVersionList(u"--systems"_s, options.systems, ParseSystemVersion);
 }
@@ -100,10 +86,7 @@ ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expecte
     }
     else
     {
-        for (QString const& line : TextOf(matrix))
-        {
-            console.Print(Printable(line));
-        }
+        console.Print(TextOf(matrix));
     }
     if (options.expectation.empty())
     {
@@ -135,7 +118,7 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
     }
     Matrix matrix = MakeMatrix(feed.items, versions, Systems(options, expected), installation);
     matrix.feed = feed.source.name;
-    matrix.platform = QString::fromStdString(options.platform);
+    matrix.platform = Engine::NameOf(options.platform);
     return Answer(matrix, expected, options, console);
 }
 

@@ -1,6 +1,5 @@
 #include "Publisher/serve/FileServer.h"
 
-#include "Publisher/Console.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/serve/RequestRules.h"
 #include "Publisher/serve/ServedFile.h"
@@ -151,9 +150,8 @@ private:
         }
         if (hosts == 1 && !IsAskedByItsName())
         {
-            return GiveStatus(
-                MHD_HTTP_MISDIRECTED_REQUEST, {},
-                u" for \"%1\", which no --host names"_s.arg(Printable(QString::fromLatin1(Asked("Host")))));
+            return GiveStatus(MHD_HTTP_MISDIRECTED_REQUEST, {},
+                              u" for \"%1\", which no --host names"_s.arg(QString::fromLatin1(Asked("Host"))));
         }
         if (m_method != "GET" && m_method != "HEAD")
         {
@@ -244,7 +242,7 @@ private:
 
     void Log(QString const& what) const
     {
-        m_server.m_log(u"%1 /%2 %3"_s.arg(Printable(QString::fromLatin1(m_method)), Printable(m_path), what));
+        m_server.m_log(u"%1 /%2 %3"_s.arg(QString::fromLatin1(m_method), m_path, what));
     }
 
     QByteArray Asked(char const* header) const

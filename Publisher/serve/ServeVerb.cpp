@@ -24,7 +24,9 @@ void AddServe(CLI::App& program, VerbContext& context)
                     "are refused, so that no web page can read the folder")
         ->allow_extra_args(false)
         ->type_name("NAME");
-    verb.add_option("--port", options.port, "Port to listen on; default: any free port")->type_name("NUMBER");
+    verb.add_option("--port", options.port, "Port to listen on; default: any free port")
+        ->type_name("NUMBER")
+        ->check(CLI::Range(0, 65535));
     verb.add_option("--fault", options.faults,
                     "Fault in every response for a file: truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, "
                     "status:NAME:CODE or drop:NAME:BYTES (resets the connection)")

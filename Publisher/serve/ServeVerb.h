@@ -1,4 +1,5 @@
-// ServeVerb.h: the verb "serve": a test server for a publisher's dry run.
+// ServeVerb.h: the verb "serve": a test server for a publisher's dry run. Its command line is in the tool, its work in
+// the late library. Thread: the main thread.
 #pragma once
 
 #include "Publisher/Verb.h"
@@ -19,5 +20,8 @@ struct ServeOptions
     std::vector<std::string> tls;
     bool endsWithInput = false;
 };
+
+/// Prints the server's address, then serves until a signal arrives or standard input ends. Throws Refusal.
+ExitStatus Serve(Console const& console, ServeOptions const& options);
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,6 @@
-#include "Publisher/serve/Serving.h"
+// Serving.cpp: the work of the verb "serve".
+
+#include "Publisher/serve/ServeVerb.h"
 
 #include "Publisher/Refusal.h"
 #include "Publisher/files/InputFile.h"
@@ -108,7 +110,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
                       [&](QString const& line)
                       {
                           std::lock_guard const guard(logging);
-                          console.err.stream << line.toStdString() << std::endl;
+                          console.err.stream << Printable(line).toStdString() << std::endl;
                       });
     server.Listen(options.port);
     console.Print(server.Address());

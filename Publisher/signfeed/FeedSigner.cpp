@@ -2,8 +2,9 @@
 
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/SignedFeed.h"
+#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/signfeed/FeedValidityText.h"
+#include "Publisher/files/FeedText.h"
 
 #include <algorithm>
 #include <limits>
@@ -20,13 +21,14 @@ int LineOf(QByteArray const& bytes, int offset)
 
 Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
 {
-    Engine::FeedParseResult const feed = Engine::ParseFeed(content, QUrl(), Engine::FeedPlatform::Linux);
-    if (!feed)
-    {
-        throw Refusal({name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                       u"correct the feed; clients cannot read it"_s});
-    }
-    return feed->channel;
+    return ParseAsClient(name, content, {}, Engine::FeedPlatform::Linux, u"correct the feed; clients cannot read it"_s)
+        .channel;
+}
+
+/// A time in the form that clients read.
+QString MomentText(QDateTime const& moment)
+{
+    return moment.toUTC().toString(Qt::ISODate);
 }
 
 /// The serial that the new one must exceed.
@@ -63,6 +65,97 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
     // At least the current time, so that a feed that is made again from nothing has a higher serial than the published
     // one.
     return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
+}
+
+std::vector<XmlElement const*> ChannelsIn(XmlElement const& document)
+{
+    std::vector<XmlElement const*> channels;
+    for (XmlElement const& top : document.children)
+    {
+        for (XmlElement const& channel : top.children)
+        {
+            if (channel.name.IsPlain("channel"))
+            {
+                channels.push_back(&channel);
+            }
+        }
+    }
+    return channels;
+}
+
+/// The only element with the name \a term in \a channels; null if there is none. Throws Refusal if it cannot be
+/// replaced.
+XmlElement const* FindTerm(QString const& name, std::vector<XmlElement const*> const& channels, char const* term)
+{
+    XmlElement const* found = nullptr;
+    for (XmlElement const* const channel : channels)
+    {
+        for (XmlElement const& child : channel->children)
+        {
+            if (!child.name.IsOwn(term))
+            {
+                continue;
+            }
+            if (found || child.IsSingleTag())
+            {
+                throw Refusal({name, child.place.line, 0,
+                               u"the element \"%1\" appears twice or is empty"_s.arg(QLatin1String(term)),
+                               u"remove it"_s});
+            }
+            if (!child.children.empty())
+            {
+                throw Refusal({name, child.place.line, 0,
+                               u"the element \"%1\" contains elements"_s.arg(QLatin1String(term)),
+                               u"leave only text in it"_s});
+            }
+            found = &child;
+        }
+    }
+    return found;
+}
+
+/// The text between two children of the channel: a line feed and the blanks before the first child, or nothing.
+QString GapBehind(QString const& text, int offset)
+{
+    int end = offset;
+    while (end < text.size() && text.at(end).isSpace())
+    {
+        ++end;
+    }
+    QString const blanks = text.mid(offset, end - offset);
+    int const lastLine = blanks.lastIndexOf(u'\n');
+    int const lineEnd = lastLine > 0 && blanks.at(lastLine - 1) == u'\r' ? lastLine - 1 : lastLine;
+    return lastLine < 0 ? QString() : blanks.mid(lineEnd);
+}
+
+QString ElementOf(char const* name, QString const& value)
+{
+    return u"<pelnar:%1 xmlns:pelnar=\"%2\">%3</pelnar:%1>"_s.arg(QLatin1String(name),
+                                                                  QLatin1String(Engine::OWN_FEED_NAMESPACE), value);
+}
+
+/// Returns \a content with these values in its channel: in the existing elements, or in new ones at the channel's
+/// start. Throws Refusal if the feed is not UTF-8 or has no channel, and if an element cannot be replaced.
+QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::FeedValidity const& terms)
+{
+    FeedText text(name, content);
+    XmlElement const document = ReadFeedDocument(content);
+    std::vector<XmlElement const*> const channels = ChannelsIn(document);
+    if (channels.empty() || channels.front()->IsSingleTag())
+    {
+        throw Refusal({name, 1, 0, u"has no channel for a serial"_s,
+                       u"write <rss><channel> and </channel></rss> around the items"_s});
+    }
+    int const start = channels.front()->content.start;
+    QString const gap = GapBehind(text.Original(), start);
+    auto const put = [&](char const* term, QString const& value)
+    {
+        XmlElement const* const known = FindTerm(name, channels, term);
+        text.Replace(known ? known->content : TextRange{start, start}, known ? value : gap + ElementOf(term, value));
+    };
+    put("serial", QString::number(terms.serial));
+    put("expires", MomentText(terms.expires));
+    return text.Bytes();
 }
 
 } // namespace

@@ -1,13 +1,13 @@
-#include "Publisher/signfeed/SignFeedVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
 #include <QFileInfo>
 
-#include <climits>
 #include <memory>
 
 namespace Pelnar::Publisher
@@ -31,7 +31,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     QString const name = QString::fromStdString(options.feed);
     QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
     FolderLock const lock(QFileInfo(output).absolutePath(), console);
-    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"remove old items"_s);
+    QByteArray const bytes = ReadFeedFile(name);
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
     FeedContent const content = ReadFeedContent(name, bytes, *signer, changed);
@@ -42,29 +42,12 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     }
     SignedFeedBytes const feed =
         SignFeed(name, bare, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
-    AtomicFile file(output);
-    file.Write(feed.bytes);
-    file.Commit(ExistingFile::Replace);
+    ReplaceFile(output, feed.bytes);
     console.Print(u"%1: %2"_s.arg(output, TextOf(feed.terms)));
     return ExitStatus::Clean;
 }
 
 } // namespace
-
-void AddKeyStatementOption(CLI::App& verb, std::string& file)
-{
-    verb.add_option("--key-statement", file,
-                    "File with the line that \"keys state\" printed. It replaces the feed's key statement")
-        ->type_name("FILE");
-}
-
-void AddValidForOption(CLI::App& verb, int& days)
-{
-    verb.add_option("--valid-for", days, "Days until the signature expires; sign the feed again before that")
-        ->type_name("DAYS")
-        ->check(CLI::Range(1, 3650))
-        ->capture_default_str();
-}
 
 void AddSignFeed(CLI::App& program, VerbContext& context)
 {

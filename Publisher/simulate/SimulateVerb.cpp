@@ -1,7 +1,7 @@
 #include "Publisher/Verb.h"
 
-#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/SharedOptions.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/matrix/Outcome.h"
 #include "Publisher/simulate/SimulationPicture.h"
@@ -48,7 +48,7 @@ QJsonObject JsonOf(Simulation const& simulation, SimulateOptions const& options,
         days.append(counts);
     }
     return {{u"feed"_s, feed},
-            {u"platform"_s, QString::fromStdString(options.platform)},
+            {u"platform"_s, Engine::NameOf(options.platform)},
             {u"clients"_s, options.clients},
             {u"start"_s, start.toUTC().toString(Qt::ISODate)},
             {u"versions"_s, QJsonArray::fromStringList(simulation.versions)},
@@ -76,19 +76,14 @@ ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
     Simulation const simulation = Simulate(feed.items, request);
     if (!options.picture.empty())
     {
-        AtomicFile file(QString::fromStdString(options.picture));
-        file.Write(PictureOf(simulation, request.start));
-        file.Commit(ExistingFile::Replace);
+        ReplaceFile(QString::fromStdString(options.picture), PictureOf(simulation, request.start));
     }
     if (options.isJson)
     {
         console.PrintJson(JsonOf(simulation, options, feed.source.name, request.start));
         return ExitStatus::Clean;
     }
-    for (QString const& line : TextOf(simulation, request.start))
-    {
-        console.Print(Printable(line));
-    }
+    console.Print(TextOf(simulation, request.start));
     return ExitStatus::Clean;
 }
 
@@ -98,8 +93,7 @@ void AddSimulate(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<SimulateOptions>(
         program, context, "simulate",
-        "Simulate how clients move to new versions, if they check once a day and take every update",
-        RunSimulation);
+        "Simulate how clients move to new versions, if they check once a day and take every update", RunSimulation);
     AddFeedOption(verb, options.feed);
     verb.add_option("--clients", options.clients, "Number of clients")
         ->type_name("N")

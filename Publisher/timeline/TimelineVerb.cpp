@@ -52,8 +52,7 @@ void PrintEvent(TimelineEvent const& event, Console const& console)
     QString const head =
         u"%1:  %2  %3  %4  "_s.arg(event.logLine, 5)
             .arg(event.time, holder.leftJustified(9), QString::fromLatin1(LookOf(event).name).leftJustified(8));
-    console.out.stream << head.toStdString() << console.out.Styled(LookOf(event).emphasis, Printable(event.text))
-                       << '\n';
+    console.out.stream << head.toStdString() << console.out.Styled(LookOf(event).emphasis, event.text) << '\n';
 }
 
 QJsonObject JsonOf(Timeline const& timeline, QString const& name)
@@ -100,7 +99,7 @@ ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& o
             PrintEvent(event, console);
         }
         int const wrong = timeline.WrongEvents();
-        console.Print(Printable(name) + u": "_s +
+        console.Print(name + u": "_s +
                       (wrong == 0 ? u"every sequence is possible"_s
                                   : CountOf(std::size_t(wrong), u"place"_s) + u" with an impossible sequence"_s));
     }

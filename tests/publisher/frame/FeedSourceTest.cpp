@@ -1,6 +1,7 @@
 // FeedSourceTest.cpp: a feed from a path, an address and standard input.
 
 #include "Publisher/FeedSource.h"
+#include "Publisher/Refusal.h"
 #include "tests/support/LoopbackServer.h"
 
 #include <gtest/gtest.h>
@@ -20,22 +21,21 @@ namespace
 class FeedSource : public ::testing::Test
 {
 protected:
-    std::variant<FeedBytes, Problem> Read(QString const& name, QString const& publishedAt = {})
+    FeedBytes Read(QString const& name, QString const& publishedAt = {})
     {
         return ReadFeed(name, publishedAt, Console{m_in, {m_out}, {m_out}});
     }
-    FeedBytes ReadGood(QString const& name, QString const& publishedAt = {})
-    {
-        auto result = Read(name, publishedAt);
-        auto const* const problem = std::get_if<Problem>(&result);
-        EXPECT_FALSE(problem) << TextOf(*problem).toStdString();
-        return problem ? FeedBytes() : std::get<FeedBytes>(std::move(result));
-    }
     std::string ReadBad(QString const& name, QString const& publishedAt = {})
     {
-        auto const result = Read(name, publishedAt);
-        auto const* const problem = std::get_if<Problem>(&result);
-        return problem ? TextOf(*problem).toStdString() : "no problem";
+        try
+        {
+            static_cast<void>(Read(name, publishedAt));
+        }
+        catch (Refusal const& refusal)
+        {
+            return refusal.what();
+        }
+        return "no problem";
     }
     QString Write(QByteArray const& bytes)
     {
@@ -59,7 +59,7 @@ private:
 TEST_F(FeedSource, APathIsItsOwnAddress)
 {
     QString const path = Write("<rss/>");
-    FeedBytes const feed = ReadGood(path);
+    FeedBytes const feed = Read(path);
     EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
     EXPECT_EQ(feed.name.toStdString(), path.toStdString());
     EXPECT_EQ(feed.address.toString().toStdString(), "file://" + path.toStdString());
@@ -68,7 +68,7 @@ TEST_F(FeedSource, APathIsItsOwnAddress)
 TEST_F(FeedSource, ADashIsStandardInput)
 {
     m_in.str("<rss/>");
-    FeedBytes const feed = ReadGood(QStringLiteral("-"));
+    FeedBytes const feed = Read(QStringLiteral("-"));
     EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
     EXPECT_EQ(feed.name.toStdString(), "<stdin>");
     EXPECT_EQ(feed.address.toString().toStdString(), "file://" + QDir::currentPath().toStdString() + "/");
@@ -77,14 +77,14 @@ TEST_F(FeedSource, ADashIsStandardInput)
 TEST_F(FeedSource, AnAddressIsFetched)
 {
     Testing::LoopbackServer server(Testing::Answering(Testing::OkAnswer("<rss/>")));
-    FeedBytes const feed = ReadGood(server.Url().toString());
+    FeedBytes const feed = Read(server.Url().toString());
     EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
     EXPECT_EQ(feed.address, server.Url());
 }
 
 TEST_F(FeedSource, AFeedMayBeReadBeforeItIsPublished)
 {
-    FeedBytes const feed = ReadGood(Write("<rss/>"), QStringLiteral("https://updates.example.com/app/appcast.xml"));
+    FeedBytes const feed = Read(Write("<rss/>"), QStringLiteral("https://updates.example.com/app/appcast.xml"));
     EXPECT_EQ(feed.address.toString().toStdString(), "https://updates.example.com/app/appcast.xml");
 }
 

@@ -57,6 +57,19 @@ TEST(AppcastProgram, RefusesWhatItDoesNotUnderstand)
     }
 }
 
+TEST(AppcastProgram, NamesTheWordThatItDoesNotUnderstand)
+{
+    auto const said = [](QStringList const& arguments) { return RunTool(arguments).err; };
+    EXPECT_EQ(said({}), "error: a verb is required; see pelnar-appcast --help\n");
+    EXPECT_EQ(said({QStringLiteral("publish")}), "error: \"publish\" is not a verb; see pelnar-appcast --help\n");
+    EXPECT_EQ(said({QStringLiteral("--loud")}), "error: \"--loud\" is not an option; see pelnar-appcast --help\n");
+    EXPECT_EQ(said({QStringLiteral("keys"), QStringLiteral("make")}),
+              "error: \"make\" is not a verb; see pelnar-appcast keys --help\n");
+    EXPECT_EQ(said({QStringLiteral("keys")}), "error: a verb is required; see pelnar-appcast keys --help\n");
+    EXPECT_EQ(said({QStringLiteral("serve"), QStringLiteral("."), QStringLiteral("--port"), QStringLiteral("65536")}),
+              "error: --port: Value 65536 not in range 0 to 65535; see pelnar-appcast serve --help\n");
+}
+
 TEST(AppcastProgram, EmptyValueOfAnyOptionIsRefused)
 {
     std::istringstream in;

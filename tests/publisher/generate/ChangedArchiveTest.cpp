@@ -81,7 +81,7 @@ TEST(ChangedArchive, IsRefusedWhileTheRunWorks)
         std::string told;
         try
         {
-            static_cast<void>(place.Sign(QStringLiteral("Test-1.0.zip")));
+            static_cast<void>(place.Sign(place.Open(QStringLiteral("Test-1.0.zip"))));
         }
         catch (Publisher::Refusal const& refusal)
         {

@@ -104,8 +104,11 @@ TEST(LintOutput, BadArgumentsAreRefused)
         RunTool(Line({QStringLiteral("--fetch"), QStringLiteral("--public-key"), QStringLiteral("AAAA")}));
     EXPECT_EQ(key.status, 2);
     EXPECT_EQ(key.err,
-              "error: --public-key: \"AAAA\" is not an Ed25519 key; give the 32 bytes in base64 that pelnar-appcast "
-              "keys show prints\n");
+              "error: --public-key: \"AAAA\" is not an Ed25519 key, which has 32 bytes in base64; see pelnar-appcast "
+              "lint --help\n");
+    ToolRun const root = RunTool(Line({QStringLiteral("--root-public-key"), QStringLiteral("AAAA")}));
+    EXPECT_EQ(root.status, 2);
+    EXPECT_EQ(root.err.find("error: --root-public-key: \"AAAA\" is not"), 0u) << root.err;
     EXPECT_EQ(RunTool(Line({QStringLiteral("--public-key"), QStringLiteral("AAAA")})).status, 2);
 }
 

@@ -1,7 +1,8 @@
-// FeedOptions.h: command-line options that several verbs for feeds share, and what they mean. Ownership: the verb owns
-// the values, which outlive its command line.
+// SharedOptions.h: command-line options that several verbs share, and what they mean. Ownership: the verb owns the
+// values, which outlive its command line.
 #pragma once
 
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/FeedSource.h"
@@ -12,6 +13,7 @@
 #include <CLI/CLI.hpp>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -32,7 +34,7 @@ struct FeedQuestion
 {
     std::string feed;
     std::string publishedAt;
-    std::string platform = Engine::NameOf(Engine::FeedPlatform::Linux).toStdString(); ///< of this program
+    Engine::FeedPlatform platform = Engine::FeedPlatform::Linux; ///< of this program
     InstallationOptions installation;
     bool isJson = false;
 };
@@ -40,13 +42,53 @@ struct FeedQuestion
 /// "FEED".
 void AddFeedOption(CLI::App& verb, std::string& feed);
 /// "--platform"; the default is the current value of \a platform.
-void AddPlatformOption(CLI::App& verb, std::string& platform);
+void AddPlatformOption(CLI::App& verb, Engine::FeedPlatform& platform);
 /// "--published-at".
 void AddPublishedAtOption(CLI::App& verb, std::string& address);
 /// "--platform", "--machine", "--channels", "--at", "--published-at" and "--json".
 void AddClientOptions(CLI::App& verb, FeedQuestion& question);
 /// "--rollout-group".
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
+
+/// "--machine", which may be repeated; \a otherwise describes the effect without it.
+void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise);
+/// An option for public keys, which may be repeated.
+CLI::Option& AddKeysOption(CLI::App& verb, char const* name, std::vector<std::string>& keys,
+                           std::string const& description);
+/// For CLI::Option::check: a message unless \a text is an Ed25519 key.
+std::string FaultOfKey(std::string const& text);
+/// "--key-statement", the name of a file.
+void AddKeyStatementOption(CLI::App& verb, std::string& file);
+/// "--valid-for"; \a days contains the default.
+void AddValidForOption(CLI::App& verb, int& days);
+/// "--effort"; \a effort contains the default.
+void AddEffortOption(CLI::App& verb, Engine::DeltaEffort& effort);
+
+/// Adds an option whose value has one of the names in \a choices. \a value contains the default.
+template <class T>
+void AddChoiceOption(CLI::App& verb, char const* name, T& value, std::vector<std::pair<std::string, T>> const& choices,
+                     std::string const& description)
+{
+    std::vector<std::string> names;
+    std::string usual;
+    for (auto const& [choice, meaning] : choices)
+    {
+        names.push_back(choice);
+        usual = meaning == value ? choice : usual;
+    }
+    verb.add_option_function<std::string>(
+            name,
+            [&value, choices](std::string const& text)
+            {
+                for (auto const& [choice, meaning] : choices)
+                {
+                    value = choice == text ? meaning : value;
+                }
+            },
+            description)
+        ->check(CLI::IsMember(names))
+        ->default_str(usual);
+}
 
 /// Throws Refusal.
 [[nodiscard]] Engine::Installation InstallationOf(InstallationOptions const& options);

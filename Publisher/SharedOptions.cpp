@@ -1,8 +1,8 @@
-#include "Publisher/FeedOptions.h"
+#include "Publisher/SharedOptions.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/keys/KeyId.h"
 
 #include <QJsonArray>
@@ -47,11 +47,11 @@ void AddFeedOption(CLI::App& verb, std::string& feed)
     verb.add_option("FEED", feed, "Path or address of the feed, or - for standard input")->required();
 }
 
-void AddPlatformOption(CLI::App& verb, std::string& platform)
+void AddPlatformOption(CLI::App& verb, Engine::FeedPlatform& platform)
 {
-    verb.add_option("--platform", platform, "Platform of the clients")
-        ->capture_default_str()
-        ->check(CLI::IsMember({"macos", "linux"}));
+    AddChoiceOption<Engine::FeedPlatform>(
+        verb, "--platform", platform, {{"macos", Engine::FeedPlatform::MacOS}, {"linux", Engine::FeedPlatform::Linux}},
+        "Platform of the clients");
 }
 
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
@@ -61,6 +61,53 @@ void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
                     "person started")
         ->check(CLI::Range(1, Engine::ROLLOUT_GROUPS))
         ->type_name("N");
+}
+
+void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise)
+{
+    verb.add_option("--machine", names,
+                    "Machine that the programs in bundles for Linux are built for; may be repeated; default: " +
+                        otherwise)
+        ->type_name("NAME")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(Engine::MachineNames()));
+}
+
+std::string FaultOfKey(std::string const& text)
+{
+    bool const isGood = text.empty() || !Engine::KeyIdOf(text).empty(); // another check refuses every empty value
+    return isGood ? std::string() : '"' + text + "\" is not an Ed25519 key, which has 32 bytes in base64";
+}
+
+CLI::Option& AddKeysOption(CLI::App& verb, char const* name, std::vector<std::string>& keys,
+                           std::string const& description)
+{
+    return *verb.add_option(name, keys, description)->allow_extra_args(false)->type_name("KEY")->check(FaultOfKey);
+}
+
+void AddKeyStatementOption(CLI::App& verb, std::string& file)
+{
+    verb.add_option("--key-statement", file,
+                    "File with the line that \"keys state\" printed. It replaces the feed's key statement")
+        ->type_name("FILE");
+}
+
+void AddValidForOption(CLI::App& verb, int& days)
+{
+    verb.add_option("--valid-for", days, "Days until the signature expires; sign the feed again before that")
+        ->type_name("DAYS")
+        ->check(CLI::Range(1, 3650))
+        ->capture_default_str();
+}
+
+void AddEffortOption(CLI::App& verb, Engine::DeltaEffort& effort)
+{
+    AddChoiceOption<Engine::DeltaEffort>(
+        verb, "--effort", effort,
+        {{"low", Engine::DeltaEffort::Low}, {"usual", Engine::DeltaEffort::Usual}, {"high", Engine::DeltaEffort::High}},
+        "Effort to make deltas small. \"low\" takes up to a quarter less time. Deltas are 4 to 7 % larger, "
+        "or much larger if gzip files change, and clients apply them fastest. \"high\" takes up to half as "
+        "long again and saves 3 to 5 %. Clients need up to half as long again");
 }
 
 Engine::Installation InstallationOf(InstallationOptions const& options)
@@ -82,7 +129,6 @@ Engine::Installation InstallationOf(InstallationOptions const& options)
     {
         installation.rolloutGroup = [group = options.rolloutGroup - 1](QString const&) { return group; };
     }
-    CheckPublicKeys(options.publicKeys);
     for (std::string const& key : options.publicKeys)
     {
         installation.trustedKeys.append(KeyIdOf(key));
@@ -145,21 +191,11 @@ std::vector<NamedVersion> ParseVersionList(QString const& option, std::string co
 ParsedFeed ReadItems(FeedQuestion const& question, std::string const& feedName, QString const& machine,
                      Console const& console)
 {
-    bool const isMac = question.platform == Engine::NameOf(Engine::FeedPlatform::MacOS).toStdString();
-    ParsedFeed feed{
-        Need(ReadFeed(QString::fromStdString(feedName), QString::fromStdString(question.publishedAt), console)), {}};
-    Engine::FeedParseResult parsed =
-        Engine::ParseFeed(feed.source.bytes, feed.source.address,
-                          {isMac ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux, machine});
-    if (!parsed)
-    {
-        QString const& detail = parsed.error().detail;
-        throw Refusal({feed.source.name, parsed.error().line, parsed.error().column,
-                       WithoutFullStop(parsed.error().sentence.English()) +
-                           (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
-                       u"pelnar-appcast lint says how to correct the feed"_s});
-    }
-    feed.items = std::move(parsed->items);
+    ParsedFeed feed{ReadFeed(QString::fromStdString(feedName), QString::fromStdString(question.publishedAt), console),
+                    {}};
+    feed.items = ParseAsClient(feed.source.name, feed.source.bytes, feed.source.address, {question.platform, machine},
+                               u"pelnar-appcast lint says how to correct the feed"_s)
+                     .items;
     return feed;
 }
 

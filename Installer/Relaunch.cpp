@@ -10,7 +10,6 @@
 #include <climits>
 
 #include <fcntl.h>
-#include <unistd.h>
 
 namespace Pelnar::Installer
 {

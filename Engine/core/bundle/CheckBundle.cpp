@@ -15,7 +15,6 @@
 #include <elf.h>
 #include <link.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 /// The running program's own header, where the linker placed it.
 extern "C" ElfW(Ehdr) const __ehdr_start __attribute__((visibility("hidden")));

@@ -11,10 +11,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace Pelnar::Engine
 {

@@ -5,7 +5,6 @@
 #include "Engine/core/delta/StreamUnpacker.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>

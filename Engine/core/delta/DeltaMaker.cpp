@@ -14,7 +14,6 @@
 #include <functional>
 #include <map>
 #include <numeric>
-#include <system_error>
 #include <utility>
 
 namespace Pelnar::Engine

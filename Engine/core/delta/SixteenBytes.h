@@ -1,7 +1,6 @@
 // SixteenBytes.h: operations on 16 bytes at once. Thread: any; no shared state.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 

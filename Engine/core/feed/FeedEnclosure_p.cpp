@@ -71,8 +71,7 @@ FeedEnclosure ReadFeedEnclosure(FeedWalker& walker)
     while (walker.EnterChild())
     {
         // An enclosure has no content of its own. Content in a feed is kept as a property.
-        QXmlStreamReader const& reader = walker.Reader();
-        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        QString const name = walker.PropertyName();
         AddFeedProperty(enclosure.attributes, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
     }
     return enclosure;

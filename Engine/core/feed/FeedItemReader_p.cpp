@@ -109,7 +109,7 @@ QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<FeedE
     while (walker.EnterChild())
     {
         QXmlStreamReader const& reader = walker.Reader();
-        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        QString const name = walker.PropertyName();
         if (!IsPlainElement(reader, QLatin1String("enclosure")))
         {
             AddFeedProperty(properties, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
@@ -397,7 +397,7 @@ bool ReadFeedItem(FeedWalker& walker, FeedItemContext const& context, FeedItem& 
     while (walker.EnterChild())
     {
         QXmlStreamReader const& reader = walker.Reader();
-        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        QString const name = walker.PropertyName();
         QVariant value = reader.namespaceUri().isEmpty()          ? ReadPlainChild(walker, context, draft)
                          : IsFeedNamespace(reader.namespaceUri()) ? ReadFeedChild(walker, context, draft)
                          : reader.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE)

@@ -4,17 +4,6 @@
 namespace Pelnar::Engine
 {
 
-namespace
-{
-
-QString CurrentName(FeedWalker& walker)
-{
-    QXmlStreamReader const& reader = walker.Reader();
-    return walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
-}
-
-} // namespace
-
 QVariantMap ReadFeedAttributes(FeedWalker& walker)
 {
     QVariantMap properties;
@@ -63,7 +52,7 @@ FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind)
     QString text;
     while (walker.EnterChild(&text))
     {
-        QString const name = CurrentName(walker);
+        QString const name = walker.PropertyName();
         if (IsNamed(QStringRef(&name), QLatin1String("sparkle:criticalUpdate")))
         {
             element.hasFeedCriticalUpdate = true;

@@ -36,6 +36,11 @@ public:
 
     /// The element or attribute name as properties show it; \a qualifiedName is as written. Valid until the next call.
     [[nodiscard]] QString const& PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName);
+    /// That of the current element.
+    [[nodiscard]] QString const& PropertyName()
+    {
+        return PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+    }
 
 private:
     /// A name that was found before. Most feeds use about a dozen, and a shared text costs no copy.

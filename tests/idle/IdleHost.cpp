@@ -8,6 +8,7 @@
 //   relaunch=TEXT  says what the next version is started with; two words when the text has a comma
 //   cd=FOLDER      changes the working directory
 //   move=FROM:TO   renames a file
+//   memory=BYTES   from now on the process gets at most so many more
 //   main           whether Foundation takes this thread for the main one
 // Built with PELNAR_OPENED_HOST it is a library of this; with PELNAR_PLAIN_HOST it is the same program without the
 // update checker, and knows the first word only.
@@ -41,6 +42,8 @@
 #include <string>
 #ifndef PELNAR_PLAIN_HOST
 #include <dlfcn.h>
+#include <sys/resource.h>
+#include <unistd.h>
 #endif
 
 namespace
@@ -183,6 +186,14 @@ void Obey(Host& host, QString const& word)
     else if (word == QLatin1String("main"))
     {
         PrintWhetherThreadIsMain();
+    }
+    else if (word.startsWith(QLatin1String("memory=")))
+    {
+        std::size_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        rlim_t const most = pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) + value.toULongLong();
+        rlimit const limit{most, most};
+        std::printf("memory %d\n", ::setrlimit(RLIMIT_AS, &limit));
     }
     else if (word.startsWith(QLatin1String("cd=")))
     {

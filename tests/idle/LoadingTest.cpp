@@ -8,10 +8,13 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <ostream>
 
+#include <link.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -196,6 +199,36 @@ TEST(RepairedSession, ServesTheNextCheck)
     EXPECT_TRUE(lines.contains(QLatin1String("moved 1"))) << qPrintable(all);
     EXPECT_GE(lines.count(QStringLiteral("found 5.9 5.10")), 1) << qPrintable(all);
 }
+
+#if !defined(__SANITIZE_ADDRESS__) && !(defined(__has_feature) && __has_feature(address_sanitizer))
+/// The thread that loads the session has no memory for the library's tables.
+TEST(ScarceMemory, FailsTheCheck)
+{
+    constexpr std::uint64_t TABLE_BYTES = std::uint64_t{16} << 20;
+    constexpr char MOST_BYTES[] = "memory=14000000"; // the stack of a thread has 8 MiB
+    LibraryPlace const place;
+    ElfW(Ehdr) header{};
+    std::memcpy(header.e_ident, ELFMAG, SELFMAG);
+    header.e_phoff = sizeof header;
+    header.e_phentsize = sizeof(ElfW(Phdr));
+    header.e_phnum = 1;
+    ElfW(Phdr) table{};
+    table.p_type = PT_DYNAMIC;
+    table.p_filesz = TABLE_BYTES;
+    QFile library(place.SessionPath());
+    ASSERT_TRUE(library.open(QIODevice::WriteOnly));
+    library.write(reinterpret_cast<char const*>(&header), sizeof header);
+    library.write(reinterpret_cast<char const*>(&table), sizeof table);
+    ASSERT_TRUE(library.resize(TABLE_BYTES));
+    library.close();
+    QStringList const lines = place.Run({QLatin1String(MOST_BYTES), QStringLiteral("check"), QStringLiteral("check")});
+    QString const all = lines.join(QLatin1Char('\n'));
+    EXPECT_TRUE(lines.contains(QStringLiteral("memory 0"))) << qPrintable(all);
+    EXPECT_EQ(Reasons(lines), QStringList({QStringLiteral("std::bad_alloc"), QStringLiteral("std::bad_alloc")}))
+        << qPrintable(all);
+    EXPECT_EQ(lines.count(QStringLiteral("ended")), 2) << qPrintable(all);
+}
+#endif
 
 TEST(Session, IsLookedForBesideTheUpdateCheckerOnly)
 {

@@ -12,8 +12,8 @@ namespace Pelnar::Engine
 class DiskChores
 {
 public:
-    /// Runs \a chore in its own thread, or here if no thread can be created. \a chore does not throw. Its captured
-    /// objects are destroyed in the same thread.
+    /// Runs \a chore in its own thread, or here if no thread can be created. An exception ends the chore, and is
+    /// logged. Its captured objects are destroyed in the same thread.
     void Run(std::function<void()> chore);
 
 private:

@@ -5,6 +5,7 @@
 
 #include "Engine/core/base/DiskChores.h"
 
+#include <exception>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -20,7 +21,7 @@ public:
     using Write = std::function<bool(Value const& value)>;
 
     /// Calls \a write with \a value in a thread of \a chores, unless a later value replaces it before. \a write returns
-    /// false if the value could not be written, and does not throw.
+    /// false if the value could not be written; an exception means the same.
     void Put(Value value, DiskChores& chores, Write write)
     {
         {
@@ -43,6 +44,18 @@ public:
     }
 
 private:
+    [[nodiscard]] static bool IsWritten(Write const& write, Value const& value)
+    {
+        try
+        {
+            return write(value);
+        }
+        catch (std::exception const&) // later values must be written
+        {
+            return false;
+        }
+    }
+
     void WriteWhileNew(Write const& write)
     {
         std::unique_lock lock(m_mutex);
@@ -51,7 +64,7 @@ private:
         {
             Value const value = *m_waiting;
             lock.unlock();
-            isWritten = write(value);
+            isWritten = IsWritten(write, value);
             lock.lock();
         }
         m_isWriting = false;

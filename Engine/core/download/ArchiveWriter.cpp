@@ -7,6 +7,7 @@
 #include <array>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <system_error>
@@ -217,6 +218,18 @@ private:
         }
     }
 
+    static Result<void> Done(Work const& work, PartialFile& file)
+    {
+        try
+        {
+            return work.run(file);
+        }
+        catch (std::exception const& exception) // the download waits for an answer
+        {
+            return Failure(ErrorCause::DownloadSystemBusy, QString::fromLocal8Bit(exception.what()));
+        }
+    }
+
     static void Run(std::shared_ptr<WriterState> const& state, ArchiveWriterEvents const* events)
     {
         std::unique_lock lock(state->mutex);
@@ -231,7 +244,7 @@ private:
             state->works.pop_front();
             state->running = work.ending;
             lock.unlock();
-            Result<void> const done = work.run(state->file);
+            Result<void> const done = Done(work, state->file);
             if (!done)
             {
                 Post(*state, [events, error = done.error()] { Called(events->failed, error); });

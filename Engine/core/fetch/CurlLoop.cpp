@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <exception>
 #include <utility>
 
 #include <linux/tcp.h>
@@ -139,8 +140,16 @@ bool CurlLoop::Begin()
     }
     auto const watch = +[](CURL* transfer, curl_socket_t socket, int what, void* loop, void*)
     {
-        static_cast<CurlLoop*>(loop)->Watch(transfer, socket, what);
-        return 0;
+        // No exception may pass through libcurl. Without the socket the transfer runs into its time limit.
+        try
+        {
+            static_cast<CurlLoop*>(loop)->Watch(transfer, socket, what);
+            return 0;
+        }
+        catch (std::exception const&) // out of memory
+        {
+            return -1;
+        }
     };
     auto const setTimer = +[](CURLM*, long milliseconds, void* loop)
     {

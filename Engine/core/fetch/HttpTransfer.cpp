@@ -1,10 +1,10 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
+#include "Engine/core/fetch/HttpTransferCallbacks_p.h"
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
-
-#include <sys/socket.h>
 
 namespace Pelnar::Engine
 {
@@ -20,60 +20,7 @@ constexpr int STATUS_PROXY_ASKS = 407;
 constexpr qint64 FREE_FRAMING_BYTES = 1024 * 1024;
 constexpr qint64 ANSWER_PER_FRAMING = 4;
 
-/// Stands for an address of an unknown family: "::", which only a feed from this computer may lead to.
-constexpr NumericAddress NEAREST{};
-
 } // namespace
-
-/// The callbacks of libcurl, with the transfer as their pointer.
-struct HttpTransfer::Callbacks
-{
-    static curl_socket_t OpenSocket(void* transfer, curlsocktype, curl_sockaddr* address)
-    {
-        // Refused before a packet is sent.
-        return static_cast<HttpTransfer*>(transfer)->MayConnectTo(
-                   ReachOf(NumericAddressOf(address->addr).value_or(NEAREST)))
-                   ? socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol)
-                   : CURL_SOCKET_BAD;
-    }
-
-    static int BeforeRequest(void* transfer, char* server, char*, int, int)
-    {
-        AddressReach const reach = ReachOf(NumericAddressOf(QString::fromLatin1(server)).value_or(NEAREST));
-        return static_cast<HttpTransfer*>(transfer)->TakeConnection(reach) == Verdict::GoesOn ? CURL_PREREQFUNC_OK
-                                                                                              : CURL_PREREQFUNC_ABORT;
-    }
-
-    static size_t HeadLine(char* bytes, size_t, size_t count, void* transfer)
-    {
-        QByteArray const line(bytes, static_cast<int>(count));
-        return static_cast<HttpTransfer*>(transfer)->TakeHeadLine(line) == Verdict::GoesOn ? count : 0;
-    }
-
-    static size_t Body(char* bytes, size_t, size_t count, void* transfer)
-    {
-        auto const size = static_cast<qint64>(count);
-        qint64 const taken = static_cast<HttpTransfer*>(transfer)->HoldOrTake(bytes, size);
-        return taken < 0 ? CURL_WRITEFUNC_PAUSE : static_cast<size_t>(taken);
-    }
-
-    static int Debug(CURL*, curl_infotype type, char* bytes, size_t count, void* transfer)
-    {
-        if (type == CURLINFO_DATA_IN)
-        {
-            static_cast<HttpTransfer*>(transfer)->m_rawBodyBytes += static_cast<qint64>(count);
-            return 0;
-        }
-        // libcurl reads no further than an answer's end. If bytes arrive together with that end, it mentions them here
-        // and discards them.
-        QByteArray const text = QByteArray::fromRawData(bytes, static_cast<int>(count));
-        if (type == CURLINFO_TEXT && (text.startsWith("Excess found") || text.startsWith("Leftovers after chunking")))
-        {
-            static_cast<HttpTransfer*>(transfer)->m_isSurplus = true;
-        }
-        return 0;
-    }
-};
 
 HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limits, IBodySink* sink)
     : m_request(request)

@@ -1,7 +1,10 @@
 #include "Engine/core/update/UpdateEnvironment.h"
 
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/InstallRehearsal.h"
 
+#include <cerrno>
+#include <exception>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -12,15 +15,22 @@ namespace
 OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources,
                             SealedProgram& helper)
 {
-    OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
-    if (opened)
+    try
     {
-        if (Result<void> const rehearsed = RehearseInstallation(*opened, helper); !rehearsed)
+        OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
+        if (opened)
         {
-            return Failure(rehearsed.error());
+            if (Result<void> const rehearsed = RehearseInstallation(*opened, helper); !rehearsed)
+            {
+                return Failure(rehearsed.error());
+            }
         }
+        return opened;
     }
-    return opened;
+    catch (std::exception const&) // out of memory; the update waits for an answer
+    {
+        return Failure(MakeFaultError(UpdateFault::SystemLimitReached, ENOMEM));
+    }
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <new>
+#include <thread>
 
 namespace
 {
@@ -145,6 +147,31 @@ TEST_F(ArchiveWriterTest, RemovedFilesAreGoneWhenItSaysSo)
     ExpectSpending(Record(1000)->spent, {300, 1, 2});
     EXPECT_EQ(Record(1000)->durableBytes, 0u);
     EXPECT_TRUE(Record(1000)->validators.IsEmpty());
+}
+
+/// Throws when it is copied in the writing thread.
+struct ScarceCall
+{
+    ScarceCall() = default;
+    ScarceCall(ScarceCall&&) = default;
+    ScarceCall(ScarceCall const& other) : maker(other.maker)
+    {
+        if (std::this_thread::get_id() != maker)
+        {
+            throw std::bad_alloc();
+        }
+    }
+    void operator()() const {}
+
+    std::thread::id maker = std::this_thread::get_id();
+};
+
+TEST_F(ArchiveWriterTest, ExceptionInItsThreadIsAFailure)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(1000));
+    writer->Close({}, ScarceCall());
+    ASSERT_TRUE(WaitFor([this] { return failure.has_value(); }));
+    EXPECT_EQ(failure->cause, ErrorCause::DownloadSystemBusy);
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 #include <array>
 #include <cerrno>
+#include <new>
+#include <string>
 
 #include <openssl/x509_vfy.h>
 
@@ -21,10 +23,19 @@ using namespace Pelnar::Testing;
 class NarrowSink : public IBodySink
 {
 public:
-    std::optional<qint64> BeginBody(HttpHead const&) override { return qint64{1} << 40; }
-    BodyBuffer Buffer() override { return isOpen ? BodyBuffer{m_room.data(), qint64(m_room.size())} : BodyBuffer(); }
+    std::optional<qint64> BeginBody(HttpHead const&) override
+    {
+        ThrowIn("BeginBody");
+        return qint64{1} << 40;
+    }
+    BodyBuffer Buffer() override
+    {
+        ThrowIn("Buffer");
+        return isOpen ? BodyBuffer{m_room.data(), qint64(m_room.size())} : BodyBuffer();
+    }
     void Commit(qint64 bytes) override
     {
+        ThrowIn("Commit");
         taken.append(m_room.data(), static_cast<int>(bytes));
         isOpen = taken.size() < closesAt || closesAt == 0;
     }
@@ -34,8 +45,17 @@ public:
     bool isOpen = true;
     int closesAt = 0; ///< after so many bytes; 0 for never
     int rests = 0;
+    std::string throwsIn; ///< the name of the function that finds no memory
 
 private:
+    void ThrowIn(char const* place) const
+    {
+        if (throwsIn == place)
+        {
+            throw std::bad_alloc();
+        }
+    }
+
     std::array<char, 777> m_room{};
 };
 
@@ -72,6 +92,20 @@ QByteArray Numbers(int size)
         bytes += QByteArray::number(number) + ' ';
     }
     return bytes.left(size);
+}
+
+TEST_F(TransferTest, ExceptionInACallbackEndsItWithAnError)
+{
+    LoopbackServer server(Answering(OkAnswer(Numbers(2000))));
+    for (char const* const place : {"BeginBody", "Buffer", "Commit"})
+    {
+        SCOPED_TRACE(place);
+        sink.throwsIn = place;
+        cause.reset();
+        Open(server.Url());
+        ASSERT_TRUE(WaitFor([this] { return cause.has_value(); }));
+        EXPECT_EQ(cause, ErrorCause::DownloadSystemBusy);
+    }
 }
 
 TEST_F(TransferTest, SinkThatClosesNowAndThenGetsEveryByteInOrder)

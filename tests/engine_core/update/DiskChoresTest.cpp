@@ -1,4 +1,5 @@
 #include "Engine/core/base/DiskChores.h"
+#include "tests/support/LogCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +7,7 @@
 #include <csignal>
 #include <future>
 #include <memory>
+#include <new>
 #include <optional>
 #include <thread>
 
@@ -16,6 +18,7 @@ namespace
 {
 
 using Pelnar::Engine::DiskChores;
+using Pelnar::Testing::LogCapture;
 
 TEST(DiskChores, RunWhileTheirCallerGoesOn)
 {
@@ -81,6 +84,19 @@ TEST(DiskChores, RunWithNoSignalOfTheHostsAndChangeNoneOfItsOwn)
         EXPECT_EQ(::sigismember(&seen, signal), 1) << signal;
         EXPECT_EQ(::sigismember(&after, signal), ::sigismember(&before, signal)) << signal;
     }
+}
+
+TEST(DiskChores, ExceptionEndsOneChoreAndIsLogged)
+{
+    LogCapture log;
+    bool hasRun = false;
+    {
+        DiskChores chores;
+        chores.Run([] { throw std::bad_alloc(); });
+        chores.Run([&hasRun] { hasRun = true; });
+    }
+    EXPECT_TRUE(hasRun);
+    EXPECT_EQ(log.Texts(), std::vector<std::string>{"A task of the update engine ended early: std::bad_alloc"});
 }
 
 #if !defined(__SANITIZE_ADDRESS__) && !(defined(__has_feature) && __has_feature(address_sanitizer))

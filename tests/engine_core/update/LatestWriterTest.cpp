@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <future>
+#include <new>
 #include <vector>
 
 namespace
@@ -55,6 +56,24 @@ TEST(LatestWriter, KeepsAValueThatCannotBeWritten)
         DiskChores chores;
         writer.Put(2, chores, write);
     }
+    EXPECT_EQ(writer.Waiting(), std::nullopt);
+}
+
+TEST(LatestWriter, WritesTheNextValueAfterAnException)
+{
+    LatestWriter<int> writer;
+    std::vector<int> written;
+    auto const write = [&written](int value)
+    {
+        written.push_back(value);
+        return value > 1 ? true : throw std::bad_alloc();
+    };
+    for (int const value : {1, 2})
+    {
+        DiskChores chores;
+        writer.Put(value, chores, write);
+    }
+    EXPECT_EQ(written, (std::vector<int>{1, 2}));
     EXPECT_EQ(writer.Waiting(), std::nullopt);
 }
 

@@ -12,8 +12,8 @@
 
 #include <climits>
 #include <cstring>
+#include <exception>
 #include <memory>
-#include <system_error>
 #include <utility>
 
 #include <dlfcn.h>
@@ -106,7 +106,7 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
                                        return answer;
                                    });
         }
-        catch (std::system_error const&) // no thread can be created
+        catch (std::exception const&) // no thread can be created
         {
             use(Load());
             return;
@@ -115,7 +115,19 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
     m_waiters.push_back({&context, use});
 }
 
-SessionLibrary::Answer SessionLibrary::Open()
+SessionLibrary::Answer SessionLibrary::Open() noexcept
+{
+    try
+    {
+        return OpenLibrary();
+    }
+    catch (std::exception const& exception) // those who wait for the library must get an answer
+    {
+        return {nullptr, exception.what()};
+    }
+}
+
+SessionLibrary::Answer SessionLibrary::OpenLibrary()
 {
     std::string const folder = OwnFolder();
     if (folder.empty())

@@ -50,7 +50,8 @@ private:
 
     SessionLibrary() = default;
 
-    static Answer Open();
+    static Answer Open() noexcept;
+    static Answer OpenLibrary();
     void Take(Answer const& answer);
     void TakeLoading();
     void TellWaiters();

@@ -710,6 +710,10 @@
         <translation>يعمل التطبيق داخل حاوية تُخفي مالك المجلد «%1». شغّله خارج الحاوية لتحديثه.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>يمكن للمستخدم &quot;%1&quot; تغيير مجلد التطبيق. استخدم الأمر &quot;%2&quot;.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>لا يستطيع التحديث الإبقاء على من يُسمح له بفتح التطبيق، ولذلك لم يُثبَّت. اطلب من الشخص الذي ثبّت التطبيق أن يحدّثه.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>Die Anwendung läuft in einem Container, der den Besitzer des Ordners „%1“ verbirgt. Starten Sie die Anwendung außerhalb des Containers, um sie zu aktualisieren.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>Der Benutzer „%1“ darf den Ordner der Anwendung ändern. Verwenden Sie den Befehl „%2“.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>Das Update würde ändern, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>La aplicación se ejecuta en un contenedor que oculta el propietario de la carpeta «%1». Iníciela fuera del contenedor para actualizarla.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>El usuario «%1» puede modificar la carpeta de la aplicación. Use la orden «%2».</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>La actualización no puede conservar quién puede abrir la aplicación y no se instaló. Pida a la persona que instaló la aplicación que la actualice.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>L’application s’exécute dans un conteneur qui masque le propriétaire du dossier « %1 » . Démarrez-la en dehors du conteneur pour la mettre à jour.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>L’utilisateur «&#xa0;%1&#xa0;» peut modifier le dossier de l’application. Utilisez la commande «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>La mise à jour ne peut pas conserver les droits d’ouverture de l’application et n’a pas été installée. Demandez à la personne qui a installé l’application de la mettre à jour.</translation>
     </message>

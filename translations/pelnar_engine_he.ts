@@ -710,6 +710,10 @@
         <translation>היישום פועל במכולה שמסתירה את הבעלים של התיקייה ”%1”. כדי לעדכן אותו, יש להפעיל אותו מחוץ למכולה.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>המשתמש &quot;%1&quot; רשאי לשנות את תיקיית היישום. השתמשו בפקודה &quot;%2&quot;.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>העדכון אינו יכול לשמור על ההרשאות לפתיחת היישום, ולכן לא הותקן. יש לבקש ממי שהתקין את היישום לעדכן אותו.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>L’applicazione è in esecuzione in un contenitore che nasconde il proprietario della cartella «%1». Avviarla fuori dal contenitore per aggiornarla.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>L’utente “%1” può modificare la cartella dell’applicazione. Usa il comando “%2”.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>L’aggiornamento non può mantenere chi può aprire l’applicazione e non è stato installato. Chiedere alla persona che ha installato l’applicazione di aggiornarla.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>アプリケーションは、フォルダー「%1」の所有者を隠すコンテナーの中で動作しています。更新するには、コンテナーの外で起動してください。</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>ユーザー「%1」はアプリケーションのフォルダを変更できます。コマンド「%2」を使用してください。</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>アプリケーションを開ける人の設定を維持できないため、アップデートはインストールされませんでした。アプリケーションをインストールした人に更新を依頼してください。</translation>
     </message>

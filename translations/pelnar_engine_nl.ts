@@ -710,6 +710,10 @@
         <translation>De toepassing draait in een container die de eigenaar van de map ‘%1’ verbergt. Start de toepassing buiten de container om deze bij te werken.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>De gebruiker ‘%1’ mag de map van het programma wijzigen. Gebruik de opdracht ‘%2’.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>De update kan niet behouden wie de toepassing mag openen en is niet geïnstalleerd. Vraag de persoon die de toepassing heeft geïnstalleerd om deze bij te werken.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>Aplikacja działa w kontenerze, który ukrywa właściciela folderu „%1”. Uruchom ją poza kontenerem, aby ją zaktualizować.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>Użytkownik „%1” może zmieniać folder aplikacji. Użyj polecenia „%2”.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>Aktualizacja nie może zachować uprawnień do otwierania aplikacji i nie została zainstalowana. Poproś osobę, która zainstalowała aplikację, o jej aktualizację.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>O aplicativo está em execução em um contêiner que oculta o proprietário da pasta “%1”. Inicie-o fora do contêiner para atualizá-lo.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>O usuário “%1” pode alterar a pasta do aplicativo. Use o comando “%2”.</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>A atualização não pode manter quem pode abrir o aplicativo e não foi instalada. Peça à pessoa que instalou o aplicativo que o atualize.</translation>
     </message>

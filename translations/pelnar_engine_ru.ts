@@ -710,6 +710,10 @@
         <translation>Приложение работает в контейнере, который скрывает владельца папки «%1». Чтобы обновить приложение, запустите его вне контейнера.</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>Пользователь «%1» может изменять папку приложения. Используйте команду «%2».</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>Обновление не может сохранить права на открытие приложения и не установлено. Попросите того, кто установил приложение, обновить его.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>应用程序运行在一个隐藏文件夹“%1”所有者的容器中。请在容器外启动应用程序以进行更新。</translation>
     </message>
     <message>
+        <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>用户“%1”可以更改应用程序的文件夹。请使用命令“%2”。</translation>
+    </message>
+    <message>
         <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>此更新无法保留谁可以打开该应用程序的设置，因此未安装。请让安装该应用程序的人来更新。</translation>
     </message>

@@ -14,6 +14,7 @@ enum class FolderSafety
     OfAnotherUser, ///< it belongs to a user who is neither this user nor the administrator
     OwnerHidden,   ///< a user namespace hides the owner: the administrator looks like any other user there
     OpenToGroup,   ///< a group with other members may write there
+    OpenToUser,    ///< an access list lets another user write there
     OpenToAll,
     Shared, ///< all users may write there, but only the owner of a name may remove it: a folder such as /tmp
     Unreadable,
@@ -24,7 +25,7 @@ struct FolderFinding
 {
     FolderSafety safety = FolderSafety::Safe;
     std::string path; ///< of that folder; empty if there is none, or its path cannot be read
-    gid_t group = 0;  ///< for OpenToGroup
+    id_t writer = 0;  ///< for OpenToGroup the group, for OpenToUser the user
 };
 
 /// Examines the open folder and each one above it. For the folder itself, Shared is not safe. For those above, Shared
@@ -40,5 +41,7 @@ FolderFinding LookUpToTheRoot(int folderFd);
 
 /// The group's name, otherwise its number.
 std::string GroupName(gid_t group);
+/// The user's name, otherwise its number.
+std::string UserName(uid_t user);
 
 } // namespace Pelnar::Engine

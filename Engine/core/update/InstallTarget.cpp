@@ -185,7 +185,11 @@ Result<void> JudgeFolders(InstallTarget const& target, std::string const& path)
         case FolderSafety::OpenToGroup:
             return Failure(ErrorWith(
                 ErrorCause::BundleOpenToGroup, path,
-                {QString::fromStdString(GroupName(finding.group)), QStringLiteral("chmod g-w ") + Quoted(place)}));
+                {QString::fromStdString(GroupName(finding.writer)), QStringLiteral("chmod g-w ") + Quoted(place)}));
+        case FolderSafety::OpenToUser: // the command takes the right from the list's mask
+            return Failure(ErrorWith(
+                ErrorCause::BundleOpenToUser, path,
+                {QString::fromStdString(UserName(finding.writer)), QStringLiteral("chmod g-w ") + Quoted(place)}));
         case FolderSafety::OwnerHidden:
             return Failure(ErrorWith(ErrorCause::BundleOwnerHidden, path, {place}));
         case FolderSafety::OfAnotherUser:

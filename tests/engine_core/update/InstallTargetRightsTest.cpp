@@ -233,17 +233,61 @@ INSTANTIATE_TEST_SUITE_P(
         GroupRow{"OfAUserWhoIsNotListed", "root:x:0:0::/:/bin/sh\n", "ours:x:12345:\n", false}),
     [](testing::TestParamInfo<GroupRow> const& info) { return info.param.name; });
 
-TEST(InstallTarget, AccessListSpeaksForMoreThanTheGroup)
+struct AccessListRow
 {
+    char const* name;
+    std::uint16_t tag; ///< of the one entry beside those of the mode
+    std::uint32_t id;  ///< 0 for this user
+    std::uint16_t mask;
+    std::optional<ErrorCause> cause;
+    char const* sentence;
+};
+
+class AccessList : public testing::TestWithParam<AccessListRow>
+{
+};
+
+TEST_P(AccessList, NamesWhoMayWrite)
+{
+    constexpr std::uint16_t USER = 2;
+    AccessListRow const& row = GetParam();
     TargetScene const scene;
-    // user::rwx, user:54321:rwx, group::r-x, mask::rwx, other::r-x
-    constexpr std::uint32_t LIST[] = {2,   0x00070001, ~0u, 0x00070002, 54321, 0x00050004,
-                                      ~0u, 0x00070010, ~0u, 0x00050020, ~0u};
-    if (::setxattr(scene.Parent().c_str(), "system.posix_acl_access", LIST, sizeof LIST, 0) != 0)
+    std::uint32_t const id = row.id != 0 ? row.id : ::geteuid();
+    auto const entry = [](std::uint16_t tag, std::uint32_t rights) { return tag | rights << 16; };
+    // user::rwx, the entry with rwx, group::r-x, the mask, other::r-x. A named group comes after group::.
+    std::vector<std::uint32_t> list{2, entry(1, 7), ~0u};
+    std::vector<std::uint32_t> const named{entry(row.tag, 7), id};
+    std::vector<std::uint32_t> const group{entry(4, 5), ~0u};
+    for (auto const* const part : {row.tag == USER ? &named : &group, row.tag == USER ? &group : &named})
+    {
+        list.insert(list.end(), part->begin(), part->end());
+    }
+    list.insert(list.end(), {entry(0x10, row.mask), ~0u, entry(0x20, 5), ~0u});
+    if (::setxattr(scene.Parent().c_str(), "system.posix_acl_access", list.data(), list.size() * 4, 0) != 0)
     {
         GTEST_SKIP() << "this file system has no access lists";
     }
-    scene.ExpectError(ErrorCause::BundleOpenToGroup);
+    auto const opened = scene.Open(scene.Bundle());
+    ASSERT_EQ(!opened, row.cause.has_value());
+    if (row.cause)
+    {
+        EXPECT_EQ(opened.error().cause, *row.cause);
+        EXPECT_EQ(opened.error().sentence.English().toStdString().rfind(row.sentence, 0), 0u)
+            << opened.error().sentence.English().toStdString();
+        // The command helps.
+        ASSERT_EQ(std::system(("chmod g-w '" + scene.Parent() + "'").c_str()), 0);
+        EXPECT_TRUE(scene.Open(scene.Bundle()));
+    }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, AccessList,
+    testing::Values(AccessListRow{"AnotherUser", 2, 54321, 7, ErrorCause::BundleOpenToUser,
+                                  "The user \"54321\" can change the application's folder. "},
+                    AccessListRow{"AnotherGroup", 8, 54321, 7, ErrorCause::BundleOpenToGroup,
+                                  "The members of the group \"54321\" can change the application's folder. "},
+                    AccessListRow{"AnotherUserBehindTheMask", 2, 54321, 5, std::nullopt, ""},
+                    AccessListRow{"ThisUser", 2, 0, 7, std::nullopt, ""}),
+    [](testing::TestParamInfo<AccessListRow> const& info) { return info.param.name; });
 
 } // namespace

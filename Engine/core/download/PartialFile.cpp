@@ -33,6 +33,12 @@ std::string SystemStart()
     return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
 }
 
+/// True for an error of the system that says nothing about the disk.
+bool IsScarce(int errorNumber)
+{
+    return errorNumber == EMFILE || errorNumber == ENFILE || errorNumber == ENOMEM;
+}
+
 /// \a record without costs that are too old to count.
 std::optional<PartialRecord> Recent(std::optional<PartialRecord> record, std::time_t written)
 {
@@ -70,11 +76,16 @@ Result<void> PartialFile::Open()
     {
         return Failure(OpenError(errno));
     }
+    Result<std::optional<PartialRecord>> const record = ReadRecord();
+    if (!record)
+    {
+        return Failure(record.error());
+    }
     FoundFile const file{static_cast<std::uint64_t>(status.st_size), status.st_ino, SystemStart()};
     m_record = {m_place.url, m_place.declaredBytes, file.fileNumber, file.systemStart, 0, {}, {}};
-    if (std::optional<PartialRecord> const record = ReadRecord())
+    if (*record)
     {
-        TakeRecord(*record, file);
+        TakeRecord(**record, file);
     }
     m_written = m_found.bytes;
     RemoveOtherArchives(m_folder, m_place.name);
@@ -130,7 +141,7 @@ Result<void> PartialFile::OpenReader()
         {
             return {};
         }
-        if (!m_reader && (errno == EMFILE || errno == ENFILE || errno == ENOMEM))
+        if (!m_reader && IsScarce(errno))
         {
             return Failure(OpenError(errno));
         }
@@ -214,18 +225,22 @@ Result<void> PartialFile::CheckRoom() const
                : Result<void>();
 }
 
-std::optional<PartialRecord> PartialFile::ReadRecord() const
+Result<std::optional<PartialRecord>> PartialFile::ReadRecord() const
 {
     UniqueFd const file = OpenFileAt(m_folder, m_place.name + RECORD_ENDING, O_RDONLY);
+    if (!file && IsScarce(errno))
+    {
+        return Failure(OpenError(errno));
+    }
     struct stat status
     {
     };
     if (!file || fstat(file.Get(), &status) != 0 || !IsOurs(status))
     {
-        return std::nullopt;
+        return std::optional<PartialRecord>();
     }
     std::optional<std::string> const bytes = ReadStart(file.Get(), MAX_PARTIAL_RECORD_BYTES + 1);
-    return bytes ? Recent(DecodePartialRecord(*bytes), status.st_mtime) : std::nullopt;
+    return bytes ? Recent(DecodePartialRecord(*bytes), status.st_mtime) : std::optional<PartialRecord>();
 }
 
 Result<void> PartialFile::Restart(Validators const& validators)
@@ -379,7 +394,7 @@ EngineError PartialFile::MakeSystemError(int errorNumber) const
 EngineError PartialFile::FailedWrite(int errorNumber)
 {
     // A full disk gets its space back, and the content of a failing disk is not reliable.
-    if (errorNumber != EMFILE && errorNumber != ENFILE && errorNumber != ENOMEM)
+    if (!IsScarce(errorNumber))
     {
         Remove();
     }

@@ -72,7 +72,9 @@ private:
     /// Frees the name for this user's file.
     Result<void> MakeWay(std::string const& name);
     Result<void> CheckRoom() const;
-    std::optional<PartialRecord> ReadRecord() const;
+    /// Empty if there is no usable record. Fails if the system cannot open it now: without it, the archive's bytes
+    /// would be discarded.
+    Result<std::optional<PartialRecord>> ReadRecord() const;
     void TakeRecord(PartialRecord const& record, FoundFile const& file);
     /// Removes the file and the record, and frees the disk's blocks. Does nothing if the file has another user now.
     void Remove();

@@ -11,6 +11,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -62,6 +63,21 @@ TEST_F(PartialFileTest, PartIsFoundAgainWithItsVersion)
     EXPECT_EQ(file.Found().validators.entityTag, TAG.entityTag);
     ASSERT_EQ(CauseOf(file.Append(BytesOf(", the second"))), ErrorCause::NoUpdate);
     EXPECT_EQ(ArchiveText(), "the first half, the second");
+}
+
+/// Without its record the bytes cannot be trusted, so they would be discarded.
+TEST_F(PartialFileTest, SystemThatCannotOpenTheRecordNowCostsNoByte)
+{
+    LeavePart("the first half");
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlim_t const next = static_cast<rlim_t>(UniqueFd(open("/dev/null", O_RDONLY | O_CLOEXEC)).Get());
+    rlimit const tight{next + 2, before.rlim_max}; // the folder and the archive
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+    ErrorCause const cause = CauseOf(PartialFile(Place()).Open());
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_EQ(cause, ErrorCause::DownloadSystemBusy);
+    EXPECT_EQ(FoundBytes(), 14u);
 }
 
 TEST_F(PartialFileTest, UnsafeFoldersAreRefused)

@@ -87,22 +87,26 @@ bool HasSucceeded(std::optional<int> status)
     return status && WIFEXITED(*status) && WEXITSTATUS(*status) == 0;
 }
 
-bool WaitForEnd(int processFd, std::uint64_t seconds)
+WaitEnd WaitForEnd(int processFd, std::uint64_t seconds, int stopFd)
 {
     Clock::time_point const end = Clock::now() + std::chrono::seconds(seconds);
     for (;;)
     {
-        pollfd ended{processFd, POLLIN, 0};
+        pollfd waiting[] = {{processFd, POLLIN, 0}, {stopFd, POLLIN, 0}};
         std::int64_t const left = std::chrono::ceil<milliseconds>(end - Clock::now()).count();
         int const count =
-            ::poll(&ended, 1, seconds == 0 ? -1 : static_cast<int>(std::clamp<std::int64_t>(left, 0, INT_MAX)));
-        if (count > 0 && (ended.revents & POLLIN) != 0)
+            ::poll(waiting, 2, seconds == 0 ? -1 : static_cast<int>(std::clamp<std::int64_t>(left, 0, INT_MAX)));
+        if (count > 0 && (waiting[1].revents & POLLIN) != 0)
         {
-            return true;
+            return WaitEnd::Stopped;
+        }
+        if (count > 0 && (waiting[0].revents & POLLIN) != 0)
+        {
+            return WaitEnd::Ended;
         }
         if (count == 0)
         {
-            return false;
+            return WaitEnd::TimedOut;
         }
         if (count > 0 || errno != EINTR)
         {

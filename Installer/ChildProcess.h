@@ -31,8 +31,15 @@ std::optional<int> StatusOf(pid_t child);
 /// True if the program returned 0.
 [[nodiscard]] bool HasSucceeded(std::optional<int> status);
 
-/// Waits until the process behind a pidfd has ended, at most \a seconds; 0 means no limit. Returns false if it has not
-/// ended. Throws UpdateRefusal: DescriptorUnusable.
-[[nodiscard]] bool WaitForEnd(int processFd, std::uint64_t seconds);
+enum class WaitEnd
+{
+    Ended, ///< the process
+    TimedOut,
+    Stopped, ///< something can be read from the other descriptor
+};
+
+/// Waits until the process behind a pidfd has ended, at most \a seconds; 0 means no limit. Waits no longer once
+/// \a stopFd can be read; -1 for none. Throws UpdateRefusal: DescriptorUnusable.
+[[nodiscard]] WaitEnd WaitForEnd(int processFd, std::uint64_t seconds, int stopFd = -1);
 
 } // namespace Pelnar::Installer

@@ -11,6 +11,7 @@
 #include "Installer/OutcomeNote.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/RunInstaller.h"
+#include "Installer/SessionSignals.h"
 #include "Installer/SwapBundle.h"
 #include "Installer/SwapLock.h"
 #include "Installer/WatchStart.h"
@@ -21,7 +22,6 @@
 #include <type_traits>
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -40,19 +40,8 @@ using Engine::UpdateRefusal;
 constexpr int EXIT_REFUSED = 1;
 constexpr mode_t PACKED_BITS = 0777;
 
-/// No signal may end the process once it no longer waits.
-void BlockSignals()
-{
-    sigset_t signals;
-    ::sigemptyset(&signals);
-    for (int const signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT})
-    {
-        ::sigaddset(&signals, signal);
-    }
-    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
-}
-
-void WaitForHost(int hostFd, std::uint64_t waitSeconds)
+/// Waits for the host's end. The end of the session drops the installation, and this process.
+void WaitForHost(int hostFd, std::uint64_t waitSeconds, SessionSignals const& signals, OutcomeNote& note)
 {
     // Any other file would look like a host that has ended.
     bool const isProcess = ::syscall(SYS_pidfd_send_signal, hostFd, 0, nullptr, 0) == 0 || errno == ESRCH;
@@ -60,7 +49,13 @@ void WaitForHost(int hostFd, std::uint64_t waitSeconds)
     {
         throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
     }
-    if (!WaitForEnd(hostFd, waitSeconds))
+    WaitEnd const end = WaitForEnd(hostFd, waitSeconds, signals.Descriptor());
+    if (end == WaitEnd::Stopped || signals.HasArrived())
+    {
+        note.Drop();
+        signals.End();
+    }
+    if (end != WaitEnd::Ended)
     {
         throw UpdateRefusal(UpdateFault::HostStillRunning);
     }
@@ -262,15 +257,21 @@ void TidyUp(InstallJob const& job, Engine::InstallDescriptors const& descriptors
     }
 }
 
-/// Where the installed version may be started after a failure: in its place, otherwise where \a bundleFd, the bundle
-/// that the host ran from, has been moved.
+/// Where \a bundleFd, the bundle that the host ran from, is now; empty if it was removed or replaced.
+std::string PlaceOf(InstallJob const& job, int bundleFd)
+{
+    std::string const place = Engine::RealPathOf(bundleFd);
+    // Another update may have replaced it: staging folders are removed.
+    bool const isReplaced = place.find('/' + Engine::UpdateFilePrefix(job.targetName)) != std::string::npos;
+    return !isReplaced && Engine::IsAt(bundleFd, AT_FDCWD, place) ? place : std::string();
+}
+
+/// Where the installed version may be started after a failure: in its place, otherwise where the bundle is now.
 std::vector<std::string> PlacesAfterFailure(InstallJob const& job, int parentFd, int bundleFd)
 {
     std::vector<std::string> places{InstalledPath(job, parentFd)};
-    std::string const moved = Engine::RealPathOf(bundleFd);
-    // Another update may have replaced it: staging folders are removed.
-    bool const isReplaced = moved.find('/' + Engine::UpdateFilePrefix(job.targetName)) != std::string::npos;
-    if (moved != places.front() && !isReplaced && Engine::IsAt(bundleFd, AT_FDCWD, moved))
+    std::string const moved = PlaceOf(job, bundleFd);
+    if (!moved.empty() && moved != places.front())
     {
         places.push_back(moved);
     }
@@ -284,21 +285,29 @@ bool InstallUpdate(InstallJob const& job, Engine::InstallDescriptors const& desc
     // While the host still runs. Without the descriptor, a bundle that is moved is not found again.
     UniqueFd const bundle(
         ::openat(descriptors.parent, job.targetName.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    std::string const place = PlaceOf(job, bundle.Get());
     OutcomeNote note(job, descriptors.records);
+    SessionSignals const signals;
     note.Begin();
     report.SendProgress(HelperPhase::Waiting, 0, 0);
     try
     {
-        WaitForHost(descriptors.host, job.waitSeconds);
+        WaitForHost(descriptors.host, job.waitSeconds, signals, note);
     }
     catch (UpdateRefusal const& refusal)
     {
         note.Fail(refusal.Fault(), refusal.ErrorNumber()); // a host that ends at this moment gets no report
         throw;
     }
-    BlockSignals();
+    signals.Block();
     note.EnterInstallation();
     auto const failure = InstallInChild(job, descriptors, report);
+    std::string const placeNow =
+        failure ? PlaceOf(job, bundle.Get()) : Engine::RealPathOf(descriptors.parent, job.targetName);
+    if (placeNow != place && !place.empty() && !placeNow.empty())
+    {
+        note.Follow(placeNow);
+    }
     if (failure)
     {
         note.Fail(failure->fault, failure->errorNumber);

@@ -4,6 +4,7 @@
 
 #include <ctime>
 #include <exception>
+#include <utility>
 
 namespace Pelnar::Installer
 {
@@ -13,7 +14,7 @@ using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
 OutcomeNote::OutcomeNote(Engine::InstallJob const& job, int recordsFd)
-    : m_job(job), m_recordsFd(recordsFd), m_record(job.record.value_or(Engine::InstallRecord()))
+    : m_job(job), m_recordsFd(recordsFd), m_name(job.recordName), m_record(job.record.value_or(Engine::InstallRecord()))
 {
 }
 
@@ -31,6 +32,31 @@ void OutcomeNote::Begin()
             throw UpdateRefusal(UpdateFault::RecordFolderUnusable, refusal.ErrorNumber());
         }
         throw;
+    }
+}
+
+void OutcomeNote::Drop()
+{
+    if (!m_job.record || m_record.wish == Engine::InstallWish::Person)
+    {
+        return;
+    }
+    if (m_record.attempts > 1)
+    {
+        --m_record.attempts;
+        m_record.told = Engine::FailureTold::Yes;
+        Fail(UpdateFault::InstallationInterrupted, 0);
+        return;
+    }
+    Remove(m_name);
+}
+
+void OutcomeNote::Follow(std::string const& bundlePath)
+{
+    std::string name = Engine::InstallRecordName(bundlePath);
+    if (name != m_name)
+    {
+        m_formerName = std::exchange(m_name, std::move(name));
     }
 }
 
@@ -60,7 +86,22 @@ void OutcomeNote::Write(InstallState state)
     {
         m_record.state = state;
         m_record.secondsSinceEpoch = static_cast<std::uint64_t>(std::time(nullptr));
-        Engine::WriteNote(m_recordsFd, m_job.recordName, Engine::EncodeInstallRecord(m_record));
+        Engine::WriteNote(m_recordsFd, m_name, Engine::EncodeInstallRecord(m_record));
+        if (!m_formerName.empty())
+        {
+            Remove(std::exchange(m_formerName, {}));
+        }
+    }
+}
+
+void OutcomeNote::Remove(std::string const& name) const
+{
+    try
+    {
+        Engine::RemoveNote(m_recordsFd, name);
+    }
+    catch (UpdateRefusal const&) // the next start reads what is left
+    {
     }
 }
 

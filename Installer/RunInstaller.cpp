@@ -76,7 +76,7 @@ void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const
         throw UpdateRefusal(UpdateFault::InstallerNotStarted, error);
     }
     UniqueFd const ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
-    bool const isInTime = ended && WaitForEnd(ended.Get(), job.installerSeconds);
+    bool const isInTime = ended && WaitForEnd(ended.Get(), job.installerSeconds) == WaitEnd::Ended;
     if (!isInTime)
     {
         ::kill(-process, SIGKILL); // the process group of the session's first process has the same number

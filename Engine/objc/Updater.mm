@@ -115,7 +115,7 @@ void Updater::AttachToApplication()
         }
         StartedApplication const started = application.value_or(StartedApplication());
         m_memory = std::make_unique<InstallMemory>(started.stateFolder, started.downloadFolder, started.bundlePath, started.version);
-        m_isDelegateToBeTold = m_memory->IsToBeTold();
+        m_isDelegateToBeTold = m_memory->IsNews();
         TellFailedInstallationLater();
     }
 }

@@ -1,6 +1,6 @@
 // StartTest.cpp: the starts after an update. A real host application in a real bundle, which the real helper has
 // installed, or during whose installation the helper was killed.
-#include "Engine/core/update/InstallAttempt.h"
+#include "Engine/core/helper/InstallRecord.h"
 #include "tests/engine/FeedText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -83,22 +83,27 @@ protected:
     std::string EarlierFolder() const { return Cache().toStdString() + "/pelnar-updates/org%2Epelnar%2Etest"; }
 
     /// A person asks for 2.0, and the injected fault makes the installation fail.
-    void FailToInstall(std::string const& fault) { FailToInstall(fault, DownloadFolder(), RecordFolder()); }
+    void FailToInstall(std::string const& fault)
+    {
+        HelperStart start;
+        start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=" + fault};
+        FailToInstall(start, DownloadFolder(), RecordFolder());
+    }
 
-    void FailToInstall(std::string const& fault, std::string const& downloads, std::string const& records)
+    void FailToInstall(HelperStart const& start, std::string const& downloads, std::string const& records,
+                       Pelnar::Engine::InstallWish wish = Pelnar::Engine::InstallWish::Person)
     {
         Pelnar::Engine::InstallJob job = m_scene.PrepareForInstall();
         UpdateScene::KeepRecord(job);
-        job.recordName = Pelnar::Engine::InstallRecordName(QString::fromStdString(BundlePath()));
+        job.recordName = Pelnar::Engine::InstallRecordName(BundlePath());
         job.record->attempts = 1;
+        job.record->wish = wish;
         job.targetPath.clear();
         std::filesystem::create_directories(downloads);
         std::filesystem::create_directories(records);
         std::ofstream(downloads + "/" + ARCHIVE) << "the archive";
         Pelnar::Engine::UniqueFd const opened(::open(records.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         m_scene.Host().End();
-        HelperStart start;
-        start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=" + fault};
         using Numbers = Pelnar::Engine::HelperDescriptors;
         RunHelper("install", Pelnar::Engine::EncodeUpdateJob(job),
                   {{Numbers::PARENT, m_scene.Place().Descriptor()},
@@ -107,6 +112,19 @@ protected:
                    {Numbers::RECORDS, opened.Get()}},
                   start);
         m_scene.ReleaseStaging();
+    }
+
+    /// Kills the helper of an automatic installation at its first \a call.
+    void ExpectToldOnceAfterAKillAt(long call)
+    {
+        HelperStart start;
+        start.atEveryCall = [call](CallStop const& stop)
+        { return stop.call == call ? CallVerdict::KillAll() : CallVerdict::GoOn(); };
+        FailToInstall(start, DownloadFolder(), RecordFolder(), Pelnar::Engine::InstallWish::Automatic);
+        QStringList const listening{QStringLiteral("unchecked"), QStringLiteral("confirm"), QStringLiteral("listen")};
+        EXPECT_EQ(Run(listening), "aborted 4005;");
+        EXPECT_EQ(RunInBackground().find("4005"), std::string::npos);
+        ExpectWhole("1.0");
     }
 
     /// Starts the installed application and waits for its end. Returns the events of its check.
@@ -242,7 +260,9 @@ TEST_F(Start, AfterAnInstallationThatFailedTellsItWithoutACheckToo)
 
 TEST_F(Start, CopiesTheRecordsOfEarlierVersions)
 {
-    FailToInstall("renameat2:error=EPERM", EarlierFolder(), EarlierFolder());
+    HelperStart start;
+    start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=renameat2:error=EPERM"};
+    FailToInstall(start, EarlierFolder(), EarlierFolder());
     EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4012;");
     EXPECT_EQ(RunInBackground(), "asked;aborted 1002;") << "it is told once";
     EXPECT_TRUE(std::filesystem::exists(DownloadFolder() + "/" + ARCHIVE));
@@ -266,16 +286,34 @@ TEST_F(Start, AfterAHelperThatWasKilledTellsThePersonWhoAsked)
     EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4005;");
 }
 
+TEST_F(Start, AfterAnAutomaticInstallationWhoseHelperDiedTellsTheApplicationOnce)
+{
+    ExpectToldOnceAfterAKillAt(SYS_renameat2);
+}
+
+TEST_F(Start, AfterAHelperThatDiedWhileItWaitedTellsTheApplicationOnce)
+{
+    ExpectToldOnceAfterAKillAt(SYS_poll);
+}
+
 /// While the helper waited, the bundle was renamed, and a link to it took its name.
 TEST_F(Start, ThroughALinkInThePlaceOfTheBundleTellsWhyNothingWasInstalled)
 {
     std::string const moved = BundlePath() + ".away";
-    std::filesystem::rename(BundlePath(), moved);
-    std::filesystem::create_directory_symlink(moved, BundlePath());
-    FailToInstall("mkdirat:error=EPERM"); // an installation does not make this call
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        if (stop.call == SYS_poll && !std::filesystem::exists(moved))
+        {
+            std::filesystem::rename(BundlePath(), moved);
+            std::filesystem::create_directory_symlink(moved, BundlePath());
+        }
+        return CallVerdict::GoOn();
+    };
+    FailToInstall(start, DownloadFolder(), RecordFolder());
     QStringList const listening{QStringLiteral("unchecked"), QStringLiteral("confirm"), QStringLiteral("listen")};
     EXPECT_EQ(Run(listening), "aborted 4005;");
-    EXPECT_EQ(RunInBackground().rfind("asked;found 2.0;", 0), 0u) << "it is told once, and the next check offers it";
+    EXPECT_EQ(RunInBackground(), "asked;aborted 1002;") << "it is told once, and the next check waits";
 }
 
 TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)

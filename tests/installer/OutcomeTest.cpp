@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -176,6 +177,68 @@ TEST_F(Outcome, OfAHelperThatIsKilledWhileItWaitsCanBeTold)
     EXPECT_EQ(record->helper.startTime, helper.startTime);
     EXPECT_FALSE(IsRunning(helper));
     EXPECT_EQ(JudgePastInstallation(*record, "1.0", HelperLife::Ended), PastInstallation::Failed);
+}
+
+/// The helper that waits gets \a signal.
+CallVisitor SignalledWhileItWaits(int signal)
+{
+    return [signal, isSent = false](CallStop const& stop) mutable
+    {
+        if (stop.call != SYS_poll || std::exchange(isSent, true))
+        {
+            return CallVerdict::GoOn();
+        }
+        return CallVerdict::SignalAll(signal);
+    };
+}
+
+TEST_F(Outcome, OfAnAutomaticInstallationThatTheSessionEndedIsThatBefore)
+{
+    for (int const signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT})
+    {
+        SCOPED_TRACE(signal);
+        InstallJob job = Job();
+        job.record->wish = InstallWish::Automatic;
+        HelperStart start;
+        start.atEveryCall = SignalledWhileItWaits(signal);
+        EXPECT_EQ(scene.Install(job, start).signal, signal);
+        auto const record = Record();
+        ASSERT_TRUE(record);
+        EXPECT_EQ(record->state, InstallState::Failed);
+        EXPECT_EQ(record->attempts, 2u);
+        EXPECT_EQ(record->told, FailureTold::Yes);
+
+        job.record->attempts = 1;
+        start.atEveryCall = SignalledWhileItWaits(signal);
+        EXPECT_EQ(scene.Install(job, start).signal, signal);
+        EXPECT_FALSE(std::filesystem::exists(RecordPath()));
+        std::filesystem::remove_all(scene.StagingPath() + '/' + APP);
+    }
+}
+
+TEST_F(Outcome, OfAnInstallationThatAPersonWaitsForStaysIfTheSessionEndsIt)
+{
+    InstallJob const job = Job();
+    HelperStart start;
+    start.atEveryCall = SignalledWhileItWaits(SIGTERM);
+    EXPECT_EQ(scene.Install(job, start).signal, SIGTERM);
+    auto const record = Record();
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->state, InstallState::Waiting);
+    EXPECT_EQ(JudgePastInstallation(*record, "1.0", HelperLife::Ended), PastInstallation::Failed);
+}
+
+TEST_F(Outcome, OfAHelperThatCannotTakeSignalsOtherwiseIsLeftToTheNextStart)
+{
+    InstallJob job = Job();
+    job.record->wish = InstallWish::Automatic;
+    HelperStart start;
+    start.atEveryCall = [sent = SignalledWhileItWaits(SIGTERM)](CallStop const& stop)
+    { return stop.call == SYS_signalfd4 ? CallVerdict::Fail(ENOSYS) : sent(stop); };
+    EXPECT_EQ(scene.Install(job, start).signal, SIGTERM);
+    auto const record = Record();
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->state, InstallState::Waiting);
 }
 
 TEST_F(Outcome, OfAHostThatStaysIsKept)

@@ -48,6 +48,13 @@ TEST_P(OutcomeOfASpoiltBundle, IsKeptAndOnlyASafeProgramIsStarted)
     EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
     std::string const started = GetParam().started;
     EXPECT_EQ(outcome.output, started.empty() ? "" : "1.0|" + bundle + started + "/run|0|\n");
+    // The record is where the bundle's next start looks for it.
+    std::string const moved = bundle + ".away";
+    if (std::filesystem::exists(moved))
+    {
+        EXPECT_FALSE(std::filesystem::exists(RecordPath()));
+        std::filesystem::rename(scene.Downloads().Path() + '/' + InstallRecordName(moved), RecordPath());
+    }
     auto const record = Record();
     ASSERT_TRUE(record);
     EXPECT_EQ(record->state, InstallState::Failed);
@@ -104,11 +111,21 @@ TEST(OutcomeOfAMovedFolder, IsTheNewVersionWhichIsStartedThere)
 {
     Workspace const above;
     UpdateScene scene(MakeArchive(Container::Zip, MakeBundle("2.0")), above.Path());
-    InstallJob const job = scene.PrepareForInstall();
+    InstallJob job = scene.PrepareForInstall();
+    UpdateScene::KeepRecord(job);
     std::string const moved = above.Path() + "/moved";
-    std::filesystem::rename(scene.Place().Path(), moved);
-    scene.Host().End();
-    HelperOutcome const outcome = scene.Install(job);
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        if (stop.call == SYS_poll && !std::filesystem::exists(moved))
+        {
+            std::filesystem::rename(scene.Place().Path(), moved);
+            scene.Host().End();
+        }
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = scene.Install(job, start);
+    EXPECT_EQ(scene.Downloads().Names(), (std::vector<std::string>{InstallRecordName(moved + '/' + APP), "update"}));
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output, "2.0|" + moved + '/' + APP + "/run|0|\n");
 }

@@ -34,7 +34,7 @@ protected:
         m_records = m_folder.filePath(QStringLiteral("state/records"));
     }
 
-    std::string Name() const { return InstallRecordName(m_bundle); }
+    std::string Name() const { return InstallRecordName(PathBytes(m_bundle)); }
     UniqueFd Records() const
     {
         return UniqueFd(::open(QFile::encodeName(m_records).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -64,6 +64,7 @@ protected:
     {
         InstallMemory const memory(m_records, m_downloads, m_bundle, QString::fromLatin1(version));
         m_isToBeTold = memory.IsToBeTold();
+        m_isNews = memory.IsNews();
         return memory.Failure();
     }
 
@@ -80,6 +81,7 @@ protected:
     QString m_downloads;
     QString m_records;
     bool m_isToBeTold = false;
+    bool m_isNews = false;
 };
 
 QDateTime After(int hours)
@@ -145,11 +147,18 @@ TEST_F(InstallMemoryTest, FailureIsToldOnceToAPersonWhoAsked)
     EXPECT_TRUE(QFile::exists(m_downloads + QLatin1Char('/') + QLatin1String(ARCHIVE)));
 }
 
-TEST_F(InstallMemoryTest, AutomaticFailureIsToldToNobody)
+/// The log and the application hear of it. No window is shown.
+TEST_F(InstallMemoryTest, AutomaticFailureIsNewsOnce)
 {
     Attempt(InstallWish::Automatic, InstallState::Failed);
+    LogCapture log;
     EXPECT_TRUE(Start("1.0"));
+    EXPECT_TRUE(m_isNews);
     EXPECT_FALSE(m_isToBeTold);
+    EXPECT_TRUE(Start("1.0")) << "it still holds the next attempt back";
+    EXPECT_FALSE(m_isNews);
+    EXPECT_EQ(log.Texts(),
+              std::vector<std::string>{"The installation of update 2.0 failed: SwapFailed (errno 0), attempt 1"});
 }
 
 TEST_F(InstallMemoryTest, HelperThatEndedWithoutAReportHasFailed)
@@ -174,16 +183,27 @@ TEST_F(InstallMemoryTest, HelperThatRunsHasNotFailed)
     EXPECT_EQ(OnDisk()->state, InstallState::Installing);
 }
 
-TEST_F(InstallMemoryTest, InstallationOnQuitThatTheSessionEndedIsNoAttempt)
+/// The end of the session leaves no such record: the helper removes it.
+TEST_F(InstallMemoryTest, HelperThatDiedWhileItWaitedIsNewsOnceAndWasNoAttempt)
 {
+    LogCapture log;
     Attempt(InstallWish::Automatic, InstallState::Waiting);
-    EXPECT_FALSE(Start("1.0"));
+    auto const dropped = Start("1.0");
+    ASSERT_TRUE(dropped);
+    EXPECT_TRUE(m_isNews);
+    EXPECT_FALSE(m_isToBeTold);
+    EXPECT_EQ(dropped->fault, UpdateFault::InstallationInterrupted);
+    EXPECT_FALSE(IsHeldBack(*dropped, After(0)));
     EXPECT_EQ(Files(), QStringList{QLatin1String(ARCHIVE)}) << "the archive is for the next one";
+    EXPECT_FALSE(Start("1.0"));
+    EXPECT_FALSE(m_isNews);
+    EXPECT_EQ(log.Texts().size(), 1u);
 
     Attempt(InstallWish::Automatic, InstallState::Failed);
     Attempt(InstallWish::Automatic, InstallState::Waiting);
     auto const failure = Start("1.0");
     ASSERT_TRUE(failure);
+    EXPECT_TRUE(m_isNews);
     EXPECT_EQ(failure->attempts, 1u);
     ASSERT_TRUE(OnDisk());
     EXPECT_EQ(OnDisk()->attempts, 1u);
@@ -218,6 +238,16 @@ TEST_F(InstallMemoryTest, VersionThatWasInstalledAndNotStartedIsLoggedByItsFirst
     EXPECT_EQ(Files(), QStringList());
 }
 
+TEST_F(InstallMemoryTest, HelperThatDiedAfterTheSwapIsLoggedByTheFirstStartOfTheNewVersion)
+{
+    Attempt(InstallWish::Person, InstallState::Installing);
+    LogCapture log;
+    EXPECT_FALSE(Start("2.0"));
+    EXPECT_EQ(log.Texts(),
+              std::vector<std::string>{"The helper that installed update 2.0 ended before it reported a result"});
+    EXPECT_EQ(Files(), QStringList());
+}
+
 TEST_F(InstallMemoryTest, CountOfAttemptsThatIsFullStaysFull)
 {
     constexpr std::uint64_t MOST = ~std::uint64_t{0};
@@ -240,55 +270,39 @@ TEST_F(InstallMemoryTest, RecordsOfOthersAndNonsenseSayNothing)
     EXPECT_FALSE(Start("1.0"));
 }
 
-/// The bundle was moved while the helper waited, so the application starts from another place.
-TEST_F(InstallMemoryTest, FailureOfABundleThatLeftItsPlaceIsToldOnceFromAnyPlace)
+TEST_F(InstallMemoryTest, FailureIsToldToItsOwnCopyAlone)
 {
-    for (UpdateFault const fault : {UpdateFault::TargetMissing, UpdateFault::TargetChanged})
+    QString const other = m_folder.filePath(QStringLiteral("Other.app"));
+    QDir(m_folder.path()).mkpath(QStringLiteral("Other.app"));
+    for (UpdateFault const fault : {UpdateFault::SwapFailed, UpdateFault::TargetMissing, UpdateFault::TargetChanged})
     {
         SCOPED_TRACE(FaultName(fault));
         InstallRecord record = Attempt(InstallWish::Person, InstallState::Failed);
         record.fault = fault;
         WriteNote(Records().Get(), Name(), EncodeInstallRecord(record));
-        for (QString const& place :
-             {m_folder.filePath(QStringLiteral("Other.app")), QStringLiteral("/nowhere/App.app")})
+        for (QString const& place : {other, QStringLiteral("/nowhere/App.app"), QString()})
         {
-            QDir(m_folder.path()).mkpath(QStringLiteral("Other.app"));
             InstallMemory const memory(m_records, m_downloads, place, QStringLiteral("1.0"));
-            ASSERT_TRUE(memory.Failure()) << place.toStdString();
-            EXPECT_EQ(memory.Failure()->fault, fault);
-            EXPECT_TRUE(memory.IsToBeTold());
+            EXPECT_FALSE(memory.Failure()) << place.toStdString();
         }
-        {
-            InstallMemory const other(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
-                                      QStringLiteral("1.1"));
-            EXPECT_FALSE(other.Failure()) << "another version has not asked";
-        }
-        {
-            InstallMemory memory(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
-                                 QStringLiteral("1.0"));
-            memory.SetTold();
-        }
-        InstallMemory const again(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
-                                  QStringLiteral("1.0"));
-        EXPECT_FALSE(again.IsToBeTold());
-        EXPECT_FALSE(OnDisk()) << "no later start needs it";
+        EXPECT_TRUE(Start("1.0"));
+        EXPECT_TRUE(m_isToBeTold);
     }
 }
 
-TEST_F(InstallMemoryTest, OtherFailuresBelongToTheirOwnPlace)
+TEST_F(InstallMemoryTest, FailureIsToldThroughALinkToo)
 {
     Attempt(InstallWish::Person, InstallState::Failed);
-    QDir(m_folder.path()).mkpath(QStringLiteral("Other.app"));
-    InstallMemory const memory(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
-                               QStringLiteral("1.0"));
-    EXPECT_FALSE(memory.Failure());
-    EXPECT_TRUE(OnDisk());
+    QString const link = m_folder.filePath(QStringLiteral("Link.app"));
+    ASSERT_TRUE(QFile::link(m_bundle, link));
+    InstallMemory const memory(m_records, m_downloads, link, QStringLiteral("1.0"));
+    EXPECT_TRUE(memory.IsToBeTold());
 }
 
 TEST_F(InstallMemoryTest, EveryBundleHasARecordOfItsOwn)
 {
-    EXPECT_NE(InstallRecordName(QStringLiteral("/a/App.app")), InstallRecordName(QStringLiteral("/b/App.app")));
-    EXPECT_NE(InstallRecordName(PathText("/\xfe/App.app")), InstallRecordName(PathText("/\xff/App.app")));
+    EXPECT_NE(InstallRecordName("/a/App.app"), InstallRecordName("/b/App.app"));
+    EXPECT_NE(InstallRecordName("/\xfe/App.app"), InstallRecordName("/\xff/App.app"));
 }
 
 TEST(InstallBackOff, GrowsWithTheAttemptsAndEndsWithAPersonsWish)

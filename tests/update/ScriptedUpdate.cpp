@@ -252,6 +252,14 @@ public:
         ended = std::move(onEnded);
     }
 
+    void CatchUp(std::chrono::milliseconds) override
+    {
+        if (auto const end = std::exchange(m_parts.unheardEnd, std::nullopt))
+        {
+            m_parts.EndHelper(*end);
+        }
+    }
+
     void Release() override { m_isReleased = true; }
 
     void Kill() override

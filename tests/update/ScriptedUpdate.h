@@ -148,6 +148,7 @@ public:
     std::optional<Engine::EngineError> targetError;
     bool isTargetHeld = false; ///< until TellTarget
     bool isHelperMissing = false;
+    std::optional<Engine::HelperEnd> unheardEnd; ///< of the last started helper; the event loop does not report it
     quint64 neededBytes = 0;
     std::vector<Engine::DownloadRequest> requests;
     QStringList cleared; ///< folders

@@ -1,6 +1,7 @@
 // UpdateRunFailureTest.cpp: an update with every failure on its way, and its destruction.
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/faults/EngineError.h"
+#include "tests/support/LogCapture.h"
 #include "tests/update/UpdateRunFixture.h"
 
 #include <QDir>
@@ -245,6 +246,23 @@ TEST_F(UpdateRunTest, HelperThatWaitsForTheQuitAndDiesIsAnError)
     EXPECT_EQ(end->error->fault, UpdateFault::JobMalformed);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
+
+TEST_F(UpdateRunTest, HelperThatDiesUnheardBeforeTheApplicationQuitsIsAnError)
+{
+    StartSilent();
+    PrepareUpdate();
+    Since();
+    parts.unheardEnd = HelperEnd::Crashed;
+    LogCapture log;
+    Q_EMIT QCoreApplication::instance()->aboutToQuit({});
+    EXPECT_EQ(Since(), (Notes{"attempt taken back", "end"}));
+    ASSERT_TRUE(end && end->error);
+    EXPECT_EQ(end->error->cause, ErrorCause::HelperFailed);
+    EXPECT_EQ(log.Texts(), std::vector<std::string>{
+                               "The helper ended before the application, so the update is not installed"});
+    EXPECT_EQ(Installed(), Notes{"App.app"});
+}
+
 TEST_F(UpdateRunTest, DeltaThatFailsIsReplacedByTheWholeOnceSilently)
 {
     StartWithDelta(CheckKind::Interactive);

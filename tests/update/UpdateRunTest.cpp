@@ -208,7 +208,7 @@ TEST_F(UpdateRunTest, SilentUpdateIsOfferedOnceWithoutAWindowAndInstalledOnQuit)
     ASSERT_TRUE(install.record);
     EXPECT_EQ(install.record->wish, InstallWish::Automatic);
     EXPECT_EQ(install.record->attempts, 1u);
-    EXPECT_EQ(install.recordName, InstallRecordName(settings.bundle.path));
+    EXPECT_EQ(install.recordName, InstallRecordName(settings.bundle.path.toStdString()));
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
     run.reset();
     EXPECT_EQ(Since(), Notes{});

@@ -1,5 +1,6 @@
 #include "Engine/core/helper/InstallRecord.h"
 
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/base/FieldCodec.h"
 
 namespace Pelnar::Engine
@@ -8,6 +9,7 @@ namespace
 {
 
 constexpr std::string_view MAGIC = "PELNARI1";
+constexpr std::size_t NAME_BYTES = 16;
 constexpr std::uint64_t MAX_ERROR_NUMBER = 4095; // the kernel's largest
 
 template <class Codec>
@@ -19,6 +21,11 @@ void Visit(Codec& codec, InstallRecord& record, std::string& fault, std::uint64_
 }
 
 } // namespace
+
+std::string InstallRecordName(std::string const& bundlePath)
+{
+    return Hexadecimal(Bytes(HashOf(View(bundlePath)).data(), NAME_BYTES)) + ".installation";
+}
 
 std::string EncodeInstallRecord(InstallRecord record)
 {
@@ -66,7 +73,7 @@ PastInstallation JudgePastInstallation(InstallRecord const& record, std::string_
     switch (record.state)
     {
     case InstallState::Waiting:
-        // A person who agreed to an immediate installation waits for the new version.
+        // A helper that the end of the session ends removes its record, unless a person waits for the new version.
         return helper == HelperLife::Runs              ? PastInstallation::UnderWay
                : record.wish == InstallWish::Automatic ? PastInstallation::Dropped
                                                        : PastInstallation::Failed;

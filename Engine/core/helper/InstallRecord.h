@@ -32,8 +32,12 @@ enum class InstallWish : std::uint8_t
 enum class FailureTold : std::uint8_t
 {
     No = 0,
-    Yes = 1, ///< the person who asked
+    Yes = 1, ///< the person who asked; without one, the log and the application
 };
+
+/// The record's name for the bundle at \a bundlePath, which is absolute and contains no link. No folder and no archive
+/// has such a name.
+std::string InstallRecordName(std::string const& bundlePath);
 
 struct InstallRecord
 {
@@ -66,7 +70,7 @@ enum class PastInstallation
 {
     UnderWay, ///< its helper still runs
     Over,     ///< the update or another version is installed: nothing remains to do
-    Dropped,  ///< nothing was installed and no person needs to know: for example, the session ended
+    Dropped,  ///< its helper died while it waited, and no person had asked: this was no attempt
     Failed,
 };
 

@@ -2,6 +2,7 @@
 
 #include "Engine/core/update/HelperLaunch_p.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QSocketNotifier>
 
@@ -11,6 +12,7 @@
 #include <utility>
 #include <variant>
 
+#include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -95,6 +97,7 @@ public:
 
     void Start(UpdateJob const& job, std::map<int, int> const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);
+    void CatchUp(std::chrono::milliseconds most);
     void Release() { m_isReleased = true; }
     void Kill();
 
@@ -117,6 +120,7 @@ private:
     QSocketNotifier* m_reportNotifier = nullptr; // a child of this object
     QSocketNotifier* m_endNotifier = nullptr;    // a child of this object
     std::string m_line;
+    bool m_hasReported = false;
     bool m_isReleased = false;
     bool m_isDistrusted = false;
 };
@@ -156,6 +160,33 @@ void HelperProcess::Impl::Start(UpdateJob const& job, std::map<int, int> const& 
     connect(m_endNotifier, &QSocketNotifier::activated, this, [this] { Finish(); });
 }
 
+void HelperProcess::Impl::CatchUp(std::chrono::milliseconds most)
+{
+    if (!m_process || m_isDistrusted)
+    {
+        return; // its end is on its way
+    }
+    QDeadlineTimer limit(m_hasReported ? std::chrono::milliseconds(0) : most);
+    pollfd arrived[] = {{m_process.Get(), POLLIN, 0}, {m_reports.Get(), POLLIN, 0}};
+    for (bool isWaiting = true; isWaiting;)
+    {
+        int const count = ::poll(arrived, std::size(arrived), static_cast<int>(limit.remainingTime()));
+        bool const isClosed = count > 0 && arrived[0].revents == 0 && arrived[1].revents == POLLHUP;
+        if (isClosed)
+        {
+            arrived[1].fd = -1; // a process closes its pipe shortly before it has ended
+            limit.setRemainingTime(most);
+        }
+        isWaiting = isClosed || (count < 0 && errno == EINTR);
+    }
+    if ((arrived[0].revents & POLLIN) != 0)
+    {
+        Finish();
+        return;
+    }
+    Read();
+}
+
 void HelperProcess::Impl::Read()
 {
     char buffer[READ_BYTES];
@@ -186,6 +217,7 @@ bool HelperProcess::Impl::TakeLines()
             Distrust();
             return true;
         }
+        m_hasReported = true;
         m_told = EndToldBy(*decoded);
         auto const report = m_report; // a callback may destroy the stored one
         report(*decoded);
@@ -248,6 +280,11 @@ void HelperProcess::Start(UpdateJob const& job, std::map<int, int> const& inheri
                           std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
 {
     m_impl->Start(job, inherited, std::move(report), std::move(ended));
+}
+
+void HelperProcess::CatchUp(std::chrono::milliseconds most)
+{
+    m_impl->CatchUp(most);
 }
 
 void HelperProcess::Release()

@@ -9,6 +9,7 @@
 #include "Engine/core/helper/UpdateJob.h"
 #include "Engine/core/update/SealedProgram.h"
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -41,6 +42,9 @@ public:
     virtual void Start(UpdateJob const& job, std::map<int, int> const& inherited,
                        std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) = 0;
 
+    /// Takes the reports and the end that have arrived, without the event loop. If no report has arrived since the
+    /// start, waits for the first one, \a most at most. The callbacks come inside this call.
+    virtual void CatchUp(std::chrono::milliseconds most) = 0;
     /// From now on the helper survives this object and this process.
     virtual void Release() = 0;
     /// Ends the helper, released or not, and waits for its end. No callback follows. REQUIRES: the last call.
@@ -57,6 +61,7 @@ public:
 
     void Start(UpdateJob const& job, std::map<int, int> const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) override;
+    void CatchUp(std::chrono::milliseconds most) override;
     void Release() override;
     void Kill() override;
 

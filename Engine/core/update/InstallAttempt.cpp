@@ -5,8 +5,6 @@
 
 #include <glog/logging.h>
 
-#include <QCryptographicHash>
-
 #include <algorithm>
 #include <cerrno>
 #include <utility>
@@ -19,8 +17,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr int NAME_BYTES = 16;
-
 UniqueFd MakeRecordFolder(QString const& path)
 {
     UniqueFd folder = OpenPrivateFolder(PathBytes(path));
@@ -32,13 +28,6 @@ UniqueFd MakeRecordFolder(QString const& path)
 }
 
 } // namespace
-
-std::string InstallRecordName(QString const& bundlePath)
-{
-    QByteArray const hash =
-        QCryptographicHash::hash(QByteArray::fromStdString(PathBytes(bundlePath)), QCryptographicHash::Sha256);
-    return hash.left(NAME_BYTES).toHex().toStdString() + ".installation";
-}
 
 UniqueFd OpenRecordFolder(QString const& path)
 {
@@ -60,7 +49,7 @@ std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& 
 
 InstallAttempt::InstallAttempt(QString const& folder, QString const& bundlePath)
     : m_folder(MakeRecordFolder(folder))
-    , m_name(InstallRecordName(bundlePath))
+    , m_name(InstallRecordName(PathBytes(bundlePath)))
     , m_before(ReadInstallRecord(m_folder.Get(), m_name))
 {
 }

@@ -15,9 +15,6 @@
 namespace Pelnar::Engine
 {
 
-/// The record's name for the bundle at \a bundlePath, which is absolute and contains no link. No folder and no archive
-/// has such a name.
-std::string InstallRecordName(QString const& bundlePath);
 /// The folder of the records; empty unless it belongs to this user and no other user can write it.
 UniqueFd OpenRecordFolder(QString const& path);
 /// The record's content; empty if no record can be read and parsed.

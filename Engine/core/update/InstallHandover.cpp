@@ -3,10 +3,21 @@
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/KeptArguments.h"
 
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace Pelnar::Engine
 {
+namespace
+{
+
+/// A helper reports after it has written a small file to the disk.
+constexpr std::chrono::seconds MOST_AT_QUIT{2};
+
+} // namespace
 
 Result<void> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd, InstallJob job,
                                     std::function<void()> waiting, std::function<void(EngineError const&)> failed)
@@ -33,7 +44,21 @@ Result<void> InstallHandover::Start(InstallTarget const& target, PreparedUpdate&
     m_helper->Release();
     m_update = &update;
     m_update->GiveToHelper();
+    // A person who waits for the new version is told by the next start, with a window.
+    if (job.targetPath.empty())
+    {
+        QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &m_context,
+                         [this] { CatchUp(); });
+    }
     return {};
+}
+
+void InstallHandover::CatchUp()
+{
+    if (m_helper)
+    {
+        m_helper->CatchUp(MOST_AT_QUIT); // may destroy this object
+    }
 }
 
 void InstallHandover::Cancel()
@@ -73,6 +98,7 @@ void InstallHandover::Take(HelperReport const& report)
 void InstallHandover::End()
 {
     // A helper that ends while its host runs has installed nothing, even if it reports success.
+    LOG(WARNING) << "The helper ended before the application, so the update is not installed";
     m_update->TakeBack();
     auto const tell = std::move(m_failed);
     tell(m_refused ? MakeFaultError(m_refused->fault, m_refused->errorNumber) : MakeError(ErrorCause::HelperFailed));

@@ -6,6 +6,8 @@
 #include "Engine/core/update/IUpdateEnvironment.h"
 #include "Engine/core/update/PreparedUpdate.h"
 
+#include <QObject>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -33,6 +35,9 @@ public:
 private:
     void Take(HelperReport const& report);
     void End();
+    /// The application quits, so the event loop has ended: takes the helper's reports and its end. Waits a short time
+    /// for a helper that has not reported yet.
+    void CatchUp();
 
     IUpdateEnvironment& m_parts;
     InstallTarget const* m_target = nullptr;
@@ -41,6 +46,7 @@ private:
     std::function<void(EngineError const&)> m_failed;
     std::optional<RefusedReport> m_refused;
     std::unique_ptr<IHelper> m_helper;
+    QObject m_context;
 };
 
 } // namespace Pelnar::Engine

@@ -6,14 +6,13 @@
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
-#include "Engine/core/update/InstallTarget.h"
 
 #include <glog/logging.h>
 
-#include <QDir>
-
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
+#include <memory>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -26,12 +25,11 @@ QDateTime TimeOf(InstallRecord const& record)
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(record.secondsSinceEpoch), Qt::UTC);
 }
 
-/// True if a person has not seen it, and the bundle was no longer in its place.
-bool IsToBeToldElsewhere(InstallRecord const& record)
+/// The bundle's path without any link; empty if there is none.
+std::string RealPath(QString const& bundlePath)
 {
-    bool const hasLeft = record.fault == UpdateFault::TargetMissing || record.fault == UpdateFault::TargetChanged;
-    return hasLeft && record.state == InstallState::Failed && record.wish == InstallWish::Person &&
-           record.told == FailureTold::No;
+    std::unique_ptr<char, decltype(&::free)> const path(::realpath(PathBytes(bundlePath).c_str(), nullptr), &::free);
+    return path ? path.get() : std::string();
 }
 
 void SetInterrupted(InstallRecord& record)
@@ -62,33 +60,16 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
     {
         return;
     }
-    OpenedTarget const target = OpenInstalledBundle(bundlePath);
-    m_name = target ? InstallRecordName(target->path) : std::string();
-    auto record = target ? ReadInstallRecord(opened.Get(), m_name) : std::nullopt;
+    std::string const path = RealPath(bundlePath);
+    m_name = InstallRecordName(path);
+    auto record = path.empty() ? std::nullopt : ReadInstallRecord(opened.Get(), m_name);
     if (!record)
     {
-        FindMoved(opened.Get(), version.toStdString());
         return;
     }
     auto const life = IsRunning(record->helper) ? HelperLife::Runs : HelperLife::Ended;
     PastInstallation const meaning = JudgePastInstallation(*record, version.toStdString(), life);
     Settle(*std::move(record), meaning);
-}
-
-void InstallMemory::FindMoved(int recordsFd, std::string const& version)
-{
-    for (QString const& name :
-         QDir(PathForQt(recordsFd, m_folder)).entryList({QStringLiteral("*.installation")}, QDir::Files))
-    {
-        auto record = ReadInstallRecord(recordsFd, PathBytes(name));
-        if (record && record->fromVersion == version && IsToBeToldElsewhere(*record))
-        {
-            m_name = PathBytes(name);
-            m_isOfMoved = true;
-            Settle(*std::move(record), PastInstallation::Failed);
-            return;
-        }
-    }
 }
 
 void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
@@ -102,19 +83,14 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
             << "Update " << Shown(record.toVersion)
             << " was installed, but could not be started: " << FaultName(record.fault) << " (errno "
             << record.errorNumber << ")";
+        LOG_IF(WARNING, record.state == InstallState::Installing)
+            << "The helper that installed update " << Shown(record.toVersion) << " ended before it reported a result";
         Forget();
         m_chores.Run([folder = m_downloads] { ArchiveDownload::Clear(folder); });
         return;
     case PastInstallation::Dropped:
-        // This was not an attempt, but earlier ones count.
-        if (--record.attempts == 0)
-        {
-            Forget();
-            return;
-        }
         SetInterrupted(record);
-        record.told = FailureTold::Yes;
-        Keep(record);
+        --record.attempts; // earlier ones count
         break;
     case PastInstallation::Failed:
         if (record.state != InstallState::Failed)
@@ -123,10 +99,15 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
         }
         break;
     }
-    LOG_IF(WARNING, record.told == FailureTold::No)
-        << "The installation of update " << Shown(record.toVersion) << " failed: " << FaultName(record.fault)
-        << " (errno " << record.errorNumber << "), attempt " << record.attempts;
+    m_isNews = record.told == FailureTold::No;
+    LOG_IF(WARNING, m_isNews) << "The installation of update " << Shown(record.toVersion)
+                              << " failed: " << FaultName(record.fault) << " (errno " << record.errorNumber
+                              << "), attempt " << record.attempts;
     m_failure = std::move(record);
+    if (m_isNews && m_failure->wish == InstallWish::Automatic)
+    {
+        SetTold(); // no window will tell it
+    }
 }
 
 bool InstallMemory::IsToBeTold() const
@@ -136,17 +117,12 @@ bool InstallMemory::IsToBeTold() const
 
 void InstallMemory::SetTold()
 {
-    if (!m_failure)
+    if (!m_failure || m_failure->told == FailureTold::Yes)
     {
         return;
     }
     m_failure->told = FailureTold::Yes;
-    if (m_isOfMoved)
-    {
-        Forget(); // the attempts from this place have their own record
-        return;
-    }
-    Keep(*m_failure);
+    m_failure->attempts > 0 ? Keep(*m_failure) : Forget();
 }
 
 void InstallMemory::Forget()

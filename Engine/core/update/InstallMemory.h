@@ -25,19 +25,20 @@ class InstallMemory
 {
 public:
     /// \a folder holds the records, \a downloads the archives. \a bundlePath is the running bundle's path, \a version
-    /// the running version. Reads the record of this place. Without it, reads those of places that the bundle has left.
+    /// the running version. Reads the record of this place, and logs a failure.
     InstallMemory(QString const& folder, QString const& downloads, QString const& bundlePath, QString const& version);
 
-    /// The failure of the last installation that left this version in place; empty otherwise.
+    /// The failure of the last installation that left this version in place; empty otherwise. It has no attempts if
+    /// this one was no attempt.
     std::optional<InstallRecord> const& Failure() const { return m_failure; }
+    /// The application has not heard of that failure.
+    [[nodiscard]] bool IsNews() const { return m_isNews; }
     /// A person requested that installation and has not seen its result.
     [[nodiscard]] bool IsToBeTold() const;
     void SetTold();
 
 private:
     void Settle(InstallRecord record, PastInstallation meaning);
-    /// Looks for a failure that is to be told, of a bundle of this application that was no longer in its place.
-    void FindMoved(int recordsFd, std::string const& version);
     void Forget();
     void Keep(InstallRecord const& record);
 
@@ -45,7 +46,7 @@ private:
     QString m_downloads;
     std::string m_name;
     std::optional<InstallRecord> m_failure;
-    bool m_isOfMoved = false; ///< the record belongs to another place
+    bool m_isNews = false;
     DiskChores m_chores;
 };
 

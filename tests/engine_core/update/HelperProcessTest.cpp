@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
+#include <vector>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -157,6 +159,30 @@ TEST_F(HelperProcesses, OutlivesItsOwnerWhenReleased)
     EXPECT_FALSE(scene.HasEnded(MSG_DONTWAIT));
     scene.TellToEnd();
     EXPECT_TRUE(scene.HasEnded());
+}
+
+TEST_F(HelperProcesses, CatchUpTakesReportsAndTheEndWithoutTheEventLoop)
+{
+    constexpr std::chrono::seconds LONG{60};
+    ProbeScene scene("wait");
+    scene.Start();
+    scene.Helper().CatchUp(LONG);
+    EXPECT_EQ(scene.reports.size(), 1u);
+    EXPECT_TRUE(scene.ends.empty());
+    scene.Helper().CatchUp(LONG);
+    EXPECT_TRUE(scene.ends.empty()) << "it still runs, and has reported";
+    scene.TellToEnd();
+    siginfo_t ended{};
+    ASSERT_EQ(::waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT), 0);
+    scene.Helper().CatchUp(LONG);
+    EXPECT_EQ(scene.ends, std::vector<HelperEnd>{HelperEnd::Done});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(scene.ends.size(), 1u);
+
+    ProbeScene silent("crash");
+    silent.Start();
+    silent.Helper().CatchUp(LONG);
+    EXPECT_EQ(silent.ends, std::vector<HelperEnd>{HelperEnd::Crashed});
 }
 
 TEST_F(HelperProcesses, CanBeKilledAfterItsRelease)

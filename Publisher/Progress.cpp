@@ -37,16 +37,17 @@ void Progress::Show(qint64 done, qint64 total)
         return;
     }
     double const share = double(std::clamp<qint64>(done, 0, total)) / double(total);
+    QString const percent = QString::number(int(share * 100));
     if (!m_output.isTerminal)
     {
         m_sinceLine.start();
-        m_output.stream << u"%1: %2 %"_s.arg(m_label).arg(int(share * 100)).toStdString() << std::endl;
+        m_output.stream << u"%1: %2 %"_s.arg(m_label, percent).toStdString() << std::endl;
         return;
     }
     m_sinceDrawn.start();
     int const filled = int(share * BAR_WIDTH);
-    QString const bar = u"%1 [%2%3] %4 %"_s.arg(m_label, QString(filled, u'#'), QString(BAR_WIDTH - filled, u'.'),
-                                                QString::number(int(share * 100)));
+    QString const bar =
+        u"%1 [%2%3] %4 %"_s.arg(m_label, QString(filled, u'#'), QString(BAR_WIDTH - filled, u'.'), percent);
     m_drawnWidth = std::max(m_drawnWidth, bar.size());
     m_output.stream << '\r' << bar.toStdString() << std::flush;
 }

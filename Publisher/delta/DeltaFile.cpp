@@ -88,9 +88,8 @@ Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& new
     Engine::DeltaReport report;
     {
         Progress bar(manner.progressOutput, u"Comparing"_s);
-        report =
-            Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
-                              newBundle.Information().version, file.Descriptor(), {}, std::ref(bar), manner.effort);
+        report = Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
+                                   newBundle.Information().version, file.Descriptor(), std::ref(bar), manner.effort);
     }
     if (!report.outcome.HasSucceeded())
     {

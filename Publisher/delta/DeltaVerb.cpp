@@ -149,7 +149,7 @@ void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
     QStringList parts;
     for (std::size_t i = 0; i < Engine::PATCH_STREAMS; ++i)
     {
-        parts << u"%1 of %2"_s.arg(manifest.streams[i].size).arg(QLatin1String(STREAM_NAMES[i]));
+        parts << u"%1 %2"_s.arg(QLatin1String(STREAM_NAMES[i])).arg(manifest.streams[i].size);
     }
     console.Print(u"bytes of data: %1"_s.arg(parts.join(u", "_s)));
 }

@@ -58,6 +58,12 @@ void PrintFinding(QString const& feed, LintFinding const& finding, Console const
                        << Printable(finding.what).toStdString() << "; " << entry.mend << '\n';
 }
 
+/// A path or an address as the reference that SARIF requires, in which "#" and blanks are encoded.
+QString ReferenceOf(QString const& feed)
+{
+    return feed.contains("://"_l) ? feed : QString::fromLatin1(QUrl::toPercentEncoding(feed, "/"));
+}
+
 } // namespace
 
 void PrintGroupedFindings(QString const& feed, std::vector<LintFinding> const& findings, Console const& console)
@@ -106,8 +112,8 @@ QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> co
             QJsonObject const region{{u"startLine"_s, std::max(finding.place.line, 1)},
                                      {u"startColumn"_s, std::max(finding.place.column, 1)}};
             QJsonObject const place{
-                {u"physicalLocation"_s,
-                 QJsonObject{{u"artifactLocation"_s, QJsonObject{{u"uri"_s, feed}}}, {u"region"_s, region}}}};
+                {u"physicalLocation"_s, QJsonObject{{u"artifactLocation"_s, QJsonObject{{u"uri"_s, ReferenceOf(feed)}}},
+                                                    {u"region"_s, region}}}};
             results.append(QJsonObject{
                 {u"ruleId"_s, QLatin1String(entry.name)},
                 {u"level"_s, QLatin1String(SeverityName(entry.severity))},

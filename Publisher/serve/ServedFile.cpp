@@ -29,7 +29,7 @@ bool HasDottedName(QString const& path)
     return std::any_of(names.begin(), names.end(), [](QString const& name) { return name.startsWith(u'.'); });
 }
 
-/// True if a folder on the way to \a path can be entered by its owner only.
+/// True if a folder on the way to \a path can be listed by its owner only.
 bool IsInPrivateFolder(int folderFd, QString const& path)
 {
     for (int end = path.indexOf(u'/'); end >= 0; end = path.indexOf(u'/', end + 1))

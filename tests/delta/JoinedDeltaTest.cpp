@@ -170,7 +170,7 @@ TEST_F(JoinedDelta, EveryEffortMakesTheNewVersionAndMoreMakesItSmaller)
     for (DeltaEffort const effort : {DeltaEffort::Low, DeltaEffort::Usual, DeltaEffort::High})
     {
         UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
-        DeltaReport const report = MakeDelta(Old(), "1.0", New(), "2.0", container.Get(), {}, {}, effort);
+        DeltaReport const report = MakeDelta(Old(), "1.0", New(), "2.0", container.Get(), {}, effort);
         ASSERT_TRUE(report.outcome.HasSucceeded());
         sizes.push_back(report.containerBytes);
         ExpectTheNewVersion();

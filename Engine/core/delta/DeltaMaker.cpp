@@ -263,8 +263,8 @@ std::uint64_t CountOf(DeltaManifest const& manifest, DeltaEntryKind kind)
 } // namespace
 
 DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion, fs::path const& newBundle,
-                      std::string const& targetVersion, int containerFd, DeltaLimits const& limits,
-                      DeltaMakerProgress const& progress, DeltaEffort effort)
+                      std::string const& targetVersion, int containerFd, DeltaMakerProgress const& progress,
+                      DeltaEffort effort)
 {
     DeltaReport report;
     DeltaManifest manifest;
@@ -283,7 +283,7 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
         report.outcome = {DeltaError::CannotRead, error.path1().string(), error.code().value()};
         return report;
     }
-    report.outcome = OutcomeOf(CheckDeltaManifest(manifest, limits));
+    report.outcome = OutcomeOf(CheckDeltaManifest(manifest, DeltaLimits()));
     if (!report.outcome.HasSucceeded())
     {
         return report;

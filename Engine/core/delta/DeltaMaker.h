@@ -27,7 +27,7 @@ using DeltaMakerProgress = std::function<void(std::uint64_t donePieces, std::uin
 /// must be empty. All processors work on it. The same two folders and the same effort always make the same bytes.
 [[nodiscard]] DeltaReport MakeDelta(std::filesystem::path const& oldBundle, std::string const& baseVersion,
                                     std::filesystem::path const& newBundle, std::string const& targetVersion,
-                                    int containerFd, DeltaLimits const& limits = {},
-                                    DeltaMakerProgress const& progress = {}, DeltaEffort effort = DeltaEffort::Usual);
+                                    int containerFd, DeltaMakerProgress const& progress = {},
+                                    DeltaEffort effort = DeltaEffort::Usual);
 
 } // namespace Pelnar::Engine

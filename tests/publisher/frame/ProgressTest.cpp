@@ -33,10 +33,10 @@ TEST(Progress, WritesALineNowAndThenToAFile)
 {
     std::ostringstream stream;
     Output const file{stream, false, false};
-    Progress progress(file, QStringLiteral("app.zip"), std::chrono::milliseconds(0));
+    Progress progress(file, QStringLiteral("app%2.zip"), std::chrono::milliseconds(0));
     progress.Show(1, 4);
     progress.Show(4, 4);
-    EXPECT_EQ(stream.str(), "app.zip: 25 %\napp.zip: 100 %\n");
+    EXPECT_EQ(stream.str(), "app%2.zip: 25 %\napp%2.zip: 100 %\n");
 }
 
 } // namespace Pelnar::Publisher

@@ -194,6 +194,19 @@ TEST(LintOutput, SarifNamesRuleFileAndPlace)
     EXPECT_EQ(place.value(QStringLiteral("region")).toObject().value(QStringLiteral("startLine")).toInt(), 2);
 }
 
+TEST(LintOutput, SarifNamesAnyFileByAnAddress)
+{
+    QTemporaryDir folder;
+    QFile feed(folder.filePath(QStringLiteral("my feed#1 100%.xml")));
+    ASSERT_TRUE(feed.open(QIODevice::WriteOnly));
+    feed.write(FeedOfCase("LengthZero"));
+    feed.close();
+    ToolRun const run = RunTool({QStringLiteral("lint"), feed.fileName(), QStringLiteral("--sarif")});
+    EXPECT_NE(run.out.find("\"uri\": \"" + folder.path().toStdString() + "/my%20feed%231%20100%25.xml\""),
+              std::string::npos)
+        << run.out;
+}
+
 TEST(LintOutput, ListsItsRules)
 {
     ToolRun const run = RunAppcastProgram({QStringLiteral("lint"), QStringLiteral("--rules")});

@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>لا يمكن استخدام المجلد المخصص لسجلات التحديثات. تحقق من أذوناته ومن قرصه.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>يبدأ في السطر %1 من الموجز مستند ليس موجزًا.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>Der Ordner für Aufzeichnungen über Updates kann nicht verwendet werden. Prüfen Sie seine Zugriffsrechte und seinen Datenträger.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>In Zeile %1 des Feeds beginnt ein Dokument, das kein Feed ist.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

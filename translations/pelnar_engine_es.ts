@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>No se puede usar la carpeta para los registros de actualizaciones. Compruebe sus permisos y su disco.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>La línea %1 del canal empieza un documento que no es un canal.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

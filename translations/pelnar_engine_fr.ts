@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>Le dossier des enregistrements de mises à jour est inutilisable. Vérifiez ses droits d’accès et son disque.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>La ligne %1 du flux commence un document qui n’est pas un flux.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>אי אפשר להשתמש בתיקייה של רישומי העדכונים. יש לבדוק את ההרשאות שלה ואת הכונן.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>בשורה %1 של הערוץ מתחיל מסמך שאינו ערוץ.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -861,6 +861,10 @@
         <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
         <translation>Nie można użyć folderu na zapisy o aktualizacjach. Sprawdź jego uprawnienia i dysk.</translation>
     </message>
+    <message>
+        <source>Line %1 of the feed begins a document that is not a feed.</source>
+        <translation>W wierszu %1 kanału zaczyna się dokument, który nie jest kanałem.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

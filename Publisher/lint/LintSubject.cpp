@@ -27,6 +27,7 @@ LintRule RuleOf(ErrorCause cause)
         {ErrorCause::FeedTooManyItems, LintRule::TooManyItems},
         {ErrorCause::FeedTooManyNamespaces, LintRule::TooManyNamespaces},
         {ErrorCause::FeedIsWebPage, LintRule::NotAFeed},
+        {ErrorCause::FeedIsOtherDocument, LintRule::NotAFeed},
     };
     auto const* const row =
         std::find_if(std::begin(RULES), std::end(RULES), [cause](auto const& each) { return each.first == cause; });

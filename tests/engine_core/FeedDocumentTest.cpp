@@ -131,13 +131,29 @@ TEST(FeedDocument, ItemsBeforeAnErrorAreNotAnswered)
 
 TEST(FeedDocument, WithoutItemsIsAnEmptyFeed)
 {
-    for (char const* bytes : {"<rss/>", "<rss><channel/></rss>", "<cores><core id='a'/></cores>",
-                              "<a:rss xmlns:a='u'/>", "<rss><a:item xmlns:a='u'/></rss>"})
+    for (char const* bytes : {"<rss/>", "<rss><channel/></rss>", "<a:rss xmlns:a='u'/>", "<RSS/>",
+                              "<rdf:RDF xmlns:rdf='u'/>", "<channel/>", "<rss><a:item xmlns:a='u'/></rss>",
+                              "<feed><item><enclosure sparkle:os='other' xmlns:sparkle='http://www.andymatuschak.org/"
+                              "xml-namespaces/sparkle'/></item></feed>"})
     {
         FeedParseResult const result = Parse(bytes);
         EXPECT_TRUE(result.has_value()) << bytes;
         EXPECT_TRUE(result.value().items.empty()) << bytes;
     }
+}
+
+TEST(FeedDocument, OtherDocumentIsNotAnEmptyFeed)
+{
+    for (char const* bytes : {"<Error><Code>AccessDenied</Code></Error>", "<cores><core id='a'/></cores>",
+                              "<feed xmlns='http://www.w3.org/2005/Atom'><entry/></feed>", "<svg><rss/></svg>",
+                              "<urlset><url><loc>x</loc></url></urlset>", "<x:item xmlns:x='u'/>"})
+    {
+        FeedParseResult const result = Parse(bytes);
+        EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedIsOtherDocument)) << bytes;
+    }
+    FeedParseResult const result = Parse("<?xml version='1.0'?>\n<!-- a -->\n<Error>\n</Error>");
+    EXPECT_EQ(result.error().line, 3);
+    EXPECT_EQ(Text(result.error().sentence.English()), "Line 3 of the feed begins a document that is not a feed.");
 }
 
 TEST(FeedDocument, WebPageIsNotAFeed)

@@ -65,9 +65,10 @@ TEST(EngineError, HasASentenceOfItsOwnUnlessASecondOneFollows)
     std::set<std::string> sentences;
     for (EngineError const& error : EveryError())
     {
-        bool const isFollowed = error.cause > ErrorCause::FeedMalformed &&
-                                error.cause <= ErrorCause::FeedTooMuchMarkup &&
-                                error.cause != ErrorCause::FeedIsWebPage;
+        bool const isFollowed =
+            (error.cause > ErrorCause::FeedMalformed && error.cause <= ErrorCause::FeedTooMuchMarkup &&
+             error.cause != ErrorCause::FeedIsWebPage) ||
+            error.cause == ErrorCause::FeedIsOtherDocument;
         std::string const sentence = error.sentence.English().toStdString();
         EXPECT_EQ(sentences.insert(sentence).second, !isFollowed) << sentence;
     }
@@ -90,7 +91,8 @@ TEST(EngineError, OfAFeedHasTheNumberOfItsKind)
     for (ErrorCause const cause :
          {ErrorCause::FeedMalformed, ErrorCause::FeedDocumentType, ErrorCause::FeedTooDeep,
           ErrorCause::FeedTooManyAttributes, ErrorCause::FeedTagTooLong, ErrorCause::FeedTooManyItems,
-          ErrorCause::FeedTooManyNamespaces, ErrorCause::FeedTooMuchMarkup, ErrorCause::FeedIsWebPage})
+          ErrorCause::FeedTooManyNamespaces, ErrorCause::FeedTooMuchMarkup, ErrorCause::FeedIsWebPage,
+          ErrorCause::FeedIsOtherDocument})
     {
         FeedParseError error;
         error.cause = cause;

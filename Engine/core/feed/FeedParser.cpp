@@ -37,6 +37,19 @@ bool IsWebPage(QXmlStreamReader const& reader)
     return reader.name().compare(QLatin1String("html"), Qt::CaseInsensitive) == 0;
 }
 
+/// True for the first element of RSS in any form.
+bool BeginsFeed(QXmlStreamReader const& reader)
+{
+    for (char const* const name : {"rss", "RDF", "channel"})
+    {
+        if (reader.name().compare(QLatin1String(name), Qt::CaseInsensitive) == 0)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool IsItem(QXmlStreamReader const& reader)
 {
     return reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("item");
@@ -99,9 +112,15 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
     items.reserve(USUAL_ITEMS);
     ChannelReader channelReader(channel);
     int met = 0;
+    std::optional<FeedParseError> otherDocument;
     for (;;)
     {
         QXmlStreamReader::TokenType const token = walker.Advance();
+        if (token == QXmlStreamReader::EndDocument && met == 0 && otherDocument)
+        {
+            // "No update" would be wrong: a server's error or a network's page arrived instead of the feed.
+            walker.Refuse(*std::move(otherDocument));
+        }
         if (token == QXmlStreamReader::Invalid || token == QXmlStreamReader::EndDocument)
         {
             return items;
@@ -110,6 +129,10 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         if (token != QXmlStreamReader::StartElement)
         {
             continue;
+        }
+        if (walker.Depth() == 1 && !BeginsFeed(walker.Reader()))
+        {
+            otherDocument = MakeParseError(ErrorCause::FeedIsOtherDocument, walker.Line(), walker.Column(), 0);
         }
         if (walker.Depth() == 1 && IsWebPage(walker.Reader()))
         {

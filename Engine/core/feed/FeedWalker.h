@@ -25,6 +25,8 @@ public:
     [[nodiscard]] bool EnterChild(QString* text = nullptr);
     /// Refuses the document at this place because it exceeds \a limit.
     void Refuse(ErrorCause cause, int limit = 0);
+    /// Refuses the document at the place of \a refusal.
+    void Refuse(FeedParseError refusal) { error = std::move(refusal); }
 
     [[nodiscard]] std::optional<FeedParseError> const& Error() const { return error; }
     [[nodiscard]] QXmlStreamReader const& Reader() const { return reader; }

@@ -110,6 +110,7 @@ void AddDocumentCases(std::vector<LintCase>& cases)
         {"TooMuchMarkup", "<rss>" + QByteArray("<a/>").repeated(100 * 1000) + "</rss>", "too-much-markup 1:"});
     cases.push_back({"TooManyNamespaces", "<rss" + Namespaces(65) + "/>", "too-many-namespaces 1:"});
     cases.push_back({"NotAFeed", "<html><body/></html>", "not-a-feed 1:7"});
+    cases.push_back({"OtherDocument", "<Error><Code/></Error>", "not-a-feed 1:8"});
     cases.push_back({"NoItems", "<rss><channel/></rss>", "no-items 1:1 the feed has no item"});
     cases.push_back({"ControlCharacter",
                      FeedOf(Item("5.1", "\n<title>a\xE2\x80\xAE"

@@ -9,12 +9,14 @@
 #include "Engine/core/delta/StreamUnpacker.h"
 #include "tests/delta/ForgedProgram.h"
 #include "tests/delta/ManifestEquality.h"
+#include "tests/delta/PackedFiles.h"
 #include "tests/delta/SeparateDelta.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 
 namespace
 {
@@ -147,6 +149,24 @@ void CheckStream(Bytes bytes)
     }
 }
 
+/// The input as corrections of a packed text.
+void CheckCorrections(Bytes bytes)
+{
+    static std::string const words = Pelnar::Testing::WordsOf(3, 40000);
+    static std::string const file = Pelnar::Testing::GzipOf(words);
+    static Bytes const text(reinterpret_cast<std::uint8_t const*>(words.data()), words.size());
+    static Bytes const data = PackedDataOf({reinterpret_cast<std::uint8_t const*>(file.data()), file.size()});
+    TokenCorrections const corrections(bytes.begin(), bytes.end());
+    std::optional<DeflateTokens> const tokens =
+        CorrectedTokens({text, data, {{text.size(), 0, 0}}}, text, {9, 8}, corrections);
+    std::size_t sum = 0;
+    for (DeflateToken const token : tokens.value_or(DeflateTokens()))
+    {
+        sum += token.length > 0 ? token.length : 1u;
+    }
+    Require(!tokens || sum == text.size());
+}
+
 /// The input as a gzip file, as a recipe, and as the data after the start of a valid one.
 void CheckPackedText(Bytes bytes)
 {
@@ -177,6 +197,7 @@ void CheckPackedText(Bytes bytes)
         sum += token.length > 0 ? token.length : 1u;
     }
     Require(!tokens || sum == view.size());
+    CheckCorrections(bytes);
 }
 
 ByteBuffer const& SmallProgram(Pelnar::Testing::Processor processor)

@@ -411,6 +411,24 @@ TEST_F(JoinedDelta, FormatBeforeIsStillApplied)
     ExpectTheNewVersion();
 }
 
+TEST_F(JoinedDelta, VersionWithoutCorrectionsIsStillApplied)
+{
+    std::string const text = WordsOf(1, 100000);
+    WriteFile(Old() / "patched", Noise(6, 5000) + "1");
+    WriteFile(New() / "patched", Noise(6, 5000) + "2");
+    WriteFile(Old() / "changes.gz", GzipOf(text, 6));
+    WriteFile(New() / "changes.gz", GzipOf(text + "One more line.\n", 1));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    std::string container = ReadFile(Container());
+    ASSERT_EQ(container[8], 4);
+    container[8] = 3;
+    WriteFile(Container(), container);
+    ExpectTheNewVersion();
+    container[8] = 5;
+    WriteFile(Container(), container);
+    EXPECT_EQ(Apply().error, DeltaError::NotADelta);
+}
+
 TEST_F(JoinedDelta, KeptFilesCountWithTheSizesThatTheyHave)
 {
     WriteFile(Old() / "kept", std::string(1000, 'x'));

@@ -173,6 +173,89 @@ TEST(PackedText, TokensOfTheOldTextAreCopied)
     }
 }
 
+/// The tokens of a whole deflated text.
+DeflateTokens TokensIn(Bytes data)
+{
+    DeflateTokens tokens;
+    TokenReader reader(data);
+    for (DeflateToken token; reader.Next(token);)
+    {
+        tokens.push_back(token);
+    }
+    return tokens;
+}
+
+TEST(PackedText, CorrectedTokensAreThoseOfTheNewFile)
+{
+    std::mt19937 random(20261123);
+    std::size_t corrected = 0;
+    for (int round = 0; round < 60; ++round)
+    {
+        SCOPED_TRACE(round);
+        // zlib's lower levels do not remember all of the text before, so that they cannot go on after a run.
+        int const level = 4 + static_cast<int>(random() % 6);
+        std::string const before = WordsOf(random(), 20000 + random() % 100000);
+        std::size_t const cut = random() % before.size();
+        std::size_t const gone = random() % std::min<std::size_t>(300, before.size() - cut + 1);
+        std::string const added = WordsOf(random(), 1 + random() % 3000);
+        std::string const after = before.substr(0, cut) + added + before.substr(cut + gone);
+        std::vector<PatchStep> const steps{{cut, added.size(), 2 * gone}, {before.size() - cut - gone, 0, 0}};
+        std::string const oldFile = GzipOf(before, level);
+        std::string const file = GzipOf(after, level);
+        PackedBase const base{View(before), PackedDataOf(View(oldFile)), steps};
+        Bytes const data = PackedDataOf(View(file));
+        DeflateParameters const parameters{level, 8};
+        std::optional<TokenCorrections> const corrections = FindCorrections(base, View(after), parameters, data);
+        if (!corrections)
+        {
+            continue;
+        }
+        ++corrected;
+        EXPECT_EQ(CorrectedTokens(base, View(after), parameters, *corrections), TokensIn(data));
+        for (int damage = 0; damage < 20; ++damage)
+        {
+            TokenCorrections wrong = *corrections;
+            std::uint64_t& number = wrong[random() % wrong.size()];
+            number = damage % 4 == 0 ? ~std::uint64_t(0) : damage % 4 == 1 ? random() : number ^ (1u << random() % 9);
+            wrong.resize(damage % 5 == 0 ? random() % wrong.size() : wrong.size());
+            std::size_t sum = 0;
+            for (DeflateToken const token :
+                 CorrectedTokens(base, View(after), parameters, wrong).value_or(DeflateTokens()))
+            {
+                sum += token.length > 0 ? token.length : 1u;
+            }
+            EXPECT_TRUE(sum == 0 || sum == after.size());
+        }
+    }
+    EXPECT_GT(corrected, 40u);
+}
+
+TEST(PackedText, CorrectionsTakeFewBytesOrAreNotMade)
+{
+    std::string const before = WordsOf(8, 60000);
+    std::string const after = "A new entry of few words.\n" + before;
+    std::string const oldFile = GzipOf(before, 9);
+    std::string const file = GzipOf(after, 9);
+    PackedBase const base{
+        View(before), PackedDataOf(View(oldFile)), {{0, after.size() - before.size(), 0}, {before.size(), 0, 0}}};
+    ByteBuffer const recipe = FindRecipe(View(file), View(after)).value();
+    ByteBuffer const faster = FasterRecipe(recipe, View(file), View(after), base);
+    EXPECT_GT(faster.size(), recipe.size());
+    EXPECT_LE(faster.size(), recipe.size() + after.size() / 256);
+    EXPECT_EQ(Text(PackByRecipe(View(faster), View(after), file.size(), base).value()), file);
+    for (std::size_t size = 0; size < faster.size(); ++size)
+    {
+        EXPECT_FALSE(PackByRecipe(View(faster).substr(0, size), View(after), file.size(), base)) << size;
+    }
+    for (std::size_t at = 0; at < faster.size(); ++at)
+    {
+        ByteBuffer changed = faster;
+        changed[at] = static_cast<std::uint8_t>(changed[at] ^ 0xFF);
+        std::optional<ByteBuffer> const made = PackByRecipe(View(changed), View(after), file.size(), base);
+        EXPECT_TRUE(!made || made->size() <= file.size()) << at;
+    }
+}
+
 TEST(PackedText, TokensOfAnotherPackerAreNotCopied)
 {
     TwoTexts const texts;

@@ -165,6 +165,8 @@ struct DeflateToken
 {
     std::uint16_t length = 0; ///< 0 for a literal
     std::uint16_t value = 0;  ///< the literal byte, or the distance
+
+    bool operator==(DeflateToken other) const { return length == other.length && value == other.value; }
 };
 
 /// The two codes of a block.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -13,8 +14,12 @@ namespace
 constexpr int WINDOW_BITS = -15; ///< without a header
 constexpr std::size_t WINDOW_BYTES = 32768;
 constexpr std::size_t MEETING_BYTES = 8192; ///< in which a repetition must end at the same place in both texts
-constexpr std::size_t TAIL_BYTES = 1024;    ///< near the end of its input zlib finds other tokens
+constexpr std::size_t USUAL_MEETING_BYTES = 512;
+constexpr std::size_t TAIL_BYTES = 1024; ///< near the end of its input zlib finds other tokens
 constexpr std::size_t LEAST_RUN_BYTES = WINDOW_BYTES + MEETING_BYTES + 2 * TAIL_BYTES;
+constexpr std::size_t LEAST_CORRECTED_RUN_BYTES = MEETING_BYTES + 2 * TAIL_BYTES;
+constexpr std::uint64_t SHORTEST_REPETITION = 3;
+constexpr std::uint64_t LONGEST_REPETITION = 258;
 
 /// A run of bytes that is in both texts.
 struct EqualRun
@@ -53,9 +58,10 @@ ByteBuffer Deflate(Bytes text, std::size_t begin, std::size_t end, DeflateParame
     return packed;
 }
 
-void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t oldBegin, std::size_t begin, std::size_t size,
+void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t leastBytes, EqualRun like,
                      std::vector<EqualRun>& runs)
 {
+    auto const [oldBegin, begin, size] = like;
     for (std::size_t at = 0; at < size;)
     {
         auto const from = text.begin() + static_cast<std::ptrdiff_t>(begin + at);
@@ -64,7 +70,7 @@ void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t oldBegin, s
             std::mismatch(from, from + static_cast<std::ptrdiff_t>(size - at), old).first - from);
         // The old tokens are read once and in order.
         bool const isBehind = runs.empty() || runs.back().oldBegin + runs.back().size <= oldBegin + at;
-        if (equal >= LEAST_RUN_BYTES && isBehind)
+        if (equal >= leastBytes && isBehind)
         {
             runs.push_back({oldBegin + at, begin + at, equal});
         }
@@ -72,20 +78,46 @@ void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t oldBegin, s
     }
 }
 
-std::vector<EqualRun> EqualRunsOf(PackedBase const& base, Bytes text)
+std::vector<EqualRun> EqualRunsOf(PackedBase const& base, Bytes text, std::size_t leastBytes)
 {
     std::vector<EqualRun> runs;
     std::uint64_t position = 0;
     std::size_t made = 0;
     for (PatchStep const& step : base.steps)
     {
-        AppendEqualRuns(base, text, static_cast<std::size_t>(position), made, static_cast<std::size_t>(step.likeBytes),
-                        runs);
+        AppendEqualRuns(base, text, leastBytes,
+                        {static_cast<std::size_t>(position), made, static_cast<std::size_t>(step.likeBytes)}, runs);
         made += static_cast<std::size_t>(step.likeBytes + step.extraBytes);
         position = MovedBy(position + step.likeBytes, step.move);
     }
     return runs;
 }
+
+/// The tokens of the new file.
+class WantedTokens
+{
+public:
+    explicit WantedTokens(Bytes data) : m_tokens(data) {}
+
+    [[nodiscard]] bool Take(DeflateToken& token)
+    {
+        bool const isTaken = m_tokens.Next(token);
+        m_made += isTaken ? BytesOf(token) : 0;
+        return isTaken;
+    }
+    /// False if no token ends at \a position.
+    [[nodiscard]] bool SkipTo(std::size_t position)
+    {
+        for (DeflateToken token; m_made < position && Take(token);)
+        {
+        }
+        return m_made == position;
+    }
+
+private:
+    TokenReader m_tokens;
+    std::size_t m_made = 0;
+};
 
 /// After a repetition, what zlib does depends only on its window and on the following text. So if a repetition ends at
 /// the same place in both texts, and windows and following texts are equal, the next tokens are equal, too.
@@ -99,9 +131,31 @@ public:
         m_tokens.reserve(text.size());
     }
 
-    [[nodiscard]] bool Copy(EqualRun const& run) { return Meet(run) && CopyOldTokens(run); }
+    [[nodiscard]] bool Copy(EqualRun const& run) { return Meet(run, run.begin + WINDOW_BYTES) && CopyOldTokens(run); }
+    /// Copies the tokens of \a run with its corrections.
+    [[nodiscard]] bool Correct(EqualRun const& run, CorrectionReader& corrections)
+    {
+        if (!Meet(run, run.begin))
+        {
+            return false;
+        }
+        for (std::uint64_t left = corrections.Take(); left > 0; --left)
+        {
+            if (!CopyTokens(corrections.Take()) || !AddCorrection(run, corrections))
+            {
+                return false;
+            }
+        }
+        return CopyTokens(corrections.Take()) && corrections.IsGood();
+    }
+    /// Finds the corrections of \a run. \a wanted reads the tokens of the text.
+    [[nodiscard]] bool FindCorrections(EqualRun const& run, WantedTokens& wanted, TokenCorrections& corrections);
     [[nodiscard]] bool AddRest()
     {
+        if (m_made == m_text.size())
+        {
+            return true;
+        }
         ByteBuffer const packed = Deflate(m_text, m_made, m_text.size(), m_parameters);
         TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < m_text.size() && tokens.Next(token);)
@@ -119,11 +173,18 @@ private:
         m_made += BytesOf(token);
     }
 
-    /// Lets zlib find tokens, up to a place in \a run where a repetition ends in both texts.
-    bool Meet(EqualRun const& run)
+    /// Lets zlib find tokens, up to the first place in \a run, from \a first on, where a repetition ends in both texts.
+    bool Meet(EqualRun const& run, std::size_t first)
     {
-        std::size_t const first = run.begin + WINDOW_BYTES;
-        std::size_t const last = first + MEETING_BYTES;
+        return Meet(run, first, USUAL_MEETING_BYTES) || Meet(run, first, MEETING_BYTES);
+    }
+
+    /// False, without tokens, if there is no such place among \a meetingBytes. It may be tried again with more.
+    bool Meet(EqualRun const& run, std::size_t first, std::size_t meetingBytes)
+    {
+        std::size_t const count = m_tokens.size();
+        std::size_t const made = m_made;
+        std::size_t const last = first + meetingBytes;
         ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_parameters);
         TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < last && tokens.Next(token);)
@@ -134,15 +195,16 @@ private:
                 return true;
             }
         }
+        m_tokens.resize(count);
+        m_made = made;
         return false;
     }
 
     /// True if a repetition of the old text ends at \a position.
     bool IsOldEnd(std::size_t position)
     {
-        while (m_oldMade < position && m_old.Next(m_oldToken))
+        while (m_oldMade < position && TakeOld())
         {
-            m_oldMade += BytesOf(m_oldToken);
         }
         return m_oldMade == position && m_oldToken.length > 0;
     }
@@ -153,10 +215,9 @@ private:
         std::size_t const end = run.oldBegin + run.size - TAIL_BYTES;
         std::size_t count = m_tokens.size();
         std::size_t made = m_made;
-        while (m_oldMade < end && m_old.Next(m_oldToken))
+        while (m_oldMade < end && TakeOld())
         {
             Add(m_oldToken);
-            m_oldMade += BytesOf(m_oldToken);
             if (m_oldToken.length > 0)
             {
                 count = m_tokens.size();
@@ -168,6 +229,71 @@ private:
         return m_oldMade >= end;
     }
 
+    bool CopyTokens(std::uint64_t count)
+    {
+        for (; count > 0; --count)
+        {
+            if (!TakeOld() || BytesOf(m_oldToken) > m_text.size() - m_made)
+            {
+                return false;
+            }
+            Add(m_oldToken);
+        }
+        return true;
+    }
+
+    bool AddCorrection(EqualRun const& run, CorrectionReader& corrections)
+    {
+        for (std::uint64_t left = corrections.Take(); left > 0; --left)
+        {
+            std::uint64_t const length = corrections.Take();
+            std::uint64_t const distance = length > 0 ? corrections.Take() : 1;
+            bool const isToken = length == 0 || (length >= SHORTEST_REPETITION && length <= LONGEST_REPETITION);
+            if (!corrections.IsGood() || !isToken || distance == 0 || distance > WINDOW_BYTES ||
+                std::max<std::uint64_t>(length, 1) > m_text.size() - m_made)
+            {
+                return false;
+            }
+            Add({static_cast<std::uint16_t>(length),
+                 static_cast<std::uint16_t>(length > 0 ? distance : m_text[m_made])});
+        }
+        // The old tokens of the same bytes.
+        std::size_t const position = run.oldBegin + (m_made - run.begin);
+        while (m_oldMade < position && TakeOld())
+        {
+        }
+        return corrections.IsGood() && m_oldMade == position;
+    }
+
+    bool TakeOld()
+    {
+        bool const isTaken = m_old.Next(m_oldToken);
+        m_oldMade += isTaken ? BytesOf(m_oldToken) : 0;
+        return isTaken;
+    }
+
+    /// Takes wanted tokens after \a first, and old tokens, until both end at the same place. Empty if they do not.
+    DeflateTokens FindCorrection(EqualRun const& run, DeflateToken first, WantedTokens& wanted)
+    {
+        DeflateTokens tokens{first};
+        Add(first);
+        while (m_made - run.begin != m_oldMade - run.oldBegin)
+        {
+            bool const isBehind = m_made - run.begin < m_oldMade - run.oldBegin;
+            DeflateToken token;
+            if (isBehind ? !wanted.Take(token) || BytesOf(token) > m_text.size() - m_made : !TakeOld())
+            {
+                return {};
+            }
+            if (isBehind)
+            {
+                tokens.push_back(token);
+                Add(token);
+            }
+        }
+        return tokens;
+    }
+
     TokenReader m_old;
     DeflateToken m_oldToken;
     std::size_t m_oldMade = 0; ///< bytes of the old text whose tokens are read
@@ -176,6 +302,49 @@ private:
     DeflateTokens m_tokens;
     std::size_t m_made = 0; ///< bytes of the text that the tokens make
 };
+
+bool TokenCopier::FindCorrections(EqualRun const& run, WantedTokens& wanted, TokenCorrections& corrections)
+{
+    // The caller checks that zlib finds the wanted tokens up to here.
+    if (!Meet(run, run.begin) || !wanted.SkipTo(m_made))
+    {
+        return false;
+    }
+    std::size_t const countAt = corrections.size();
+    corrections.push_back(0);
+    std::uint64_t copied = 0;
+    // zlib goes on after a repetition, and well before the end of a run that ends inside the text.
+    std::size_t const end = run.begin + run.size;
+    bool const isLast = end == m_text.size();
+    std::size_t const stop = isLast ? end : end - TAIL_BYTES;
+    for (bool isRepetition = true; m_made < stop || (!isLast && !isRepetition);)
+    {
+        DeflateToken token;
+        bool const isInside = isLast || m_made < end;
+        if (!isInside || corrections.size() > MAX_CORRECTION_NUMBERS || !wanted.Take(token) || !TakeOld() ||
+            BytesOf(token) > m_text.size() - m_made)
+        {
+            return false;
+        }
+        if (token == m_oldToken)
+        {
+            Add(token);
+            ++copied;
+            isRepetition = token.length > 0;
+            continue;
+        }
+        DeflateTokens const tokens = FindCorrection(run, token, wanted);
+        if (tokens.empty())
+        {
+            return false;
+        }
+        AppendCorrection(corrections, std::exchange(copied, 0), tokens);
+        ++corrections[countAt];
+        isRepetition = tokens.back().length > 0;
+    }
+    corrections.push_back(copied);
+    return corrections.size() <= MAX_CORRECTION_NUMBERS;
+}
 
 } // namespace
 
@@ -222,11 +391,37 @@ std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters)
 
 std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters)
 {
-    std::vector<EqualRun> const runs = EqualRunsOf(base, text);
+    std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_RUN_BYTES);
     TokenCopier copier(base.data, text, parameters);
     bool const isCopied =
         !runs.empty() && std::all_of(runs.begin(), runs.end(), [&copier](EqualRun run) { return copier.Copy(run); });
     return isCopied && copier.AddRest() ? std::optional<DeflateTokens>(copier.Take()) : std::nullopt;
+}
+
+std::optional<DeflateTokens> CorrectedTokens(PackedBase const& base, Bytes text, DeflateParameters parameters,
+                                             TokenCorrections const& corrections)
+{
+    std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_CORRECTED_RUN_BYTES);
+    TokenCopier copier(base.data, text, parameters);
+    CorrectionReader reader(corrections);
+    bool const isCopied =
+        !runs.empty() &&
+        std::all_of(runs.begin(), runs.end(), [&copier, &reader](EqualRun run) { return copier.Correct(run, reader); });
+    return isCopied && reader.IsAtEnd() && copier.AddRest() ? std::optional<DeflateTokens>(copier.Take())
+                                                            : std::nullopt;
+}
+
+std::optional<TokenCorrections> FindCorrections(PackedBase const& base, Bytes text, DeflateParameters parameters,
+                                                Bytes data)
+{
+    std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_CORRECTED_RUN_BYTES);
+    TokenCopier copier(base.data, text, parameters);
+    WantedTokens wanted(data);
+    TokenCorrections corrections;
+    bool const areFound =
+        !runs.empty() && std::all_of(runs.begin(), runs.end(),
+                                     [&](EqualRun run) { return copier.FindCorrections(run, wanted, corrections); });
+    return areFound ? std::optional<TokenCorrections>(std::move(corrections)) : std::nullopt;
 }
 
 } // namespace Pelnar::Engine

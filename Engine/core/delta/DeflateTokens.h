@@ -3,7 +3,7 @@
 // Finding repetitions takes most of the time of packing. So the tokens of equal texts are copied.
 #pragma once
 
-#include "Engine/core/delta/DeflateCodes.h"
+#include "Engine/core/delta/TokenCorrections.h"
 
 #include <memory>
 #include <optional>
@@ -52,13 +52,21 @@ struct PackedBase
     std::vector<PatchStep> steps;
 };
 
-using DeflateTokens = std::vector<DeflateToken>;
-
 /// The tokens of \a text; nothing if zlib leaves a part of it unpacked. Throws std::bad_alloc.
 [[nodiscard]] std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters);
 
 /// The same tokens if \a base was deflated with the same parameters, otherwise other ones. They are copied from \a base
 /// where the texts are equal, and zlib finds the others. Nothing if no part can be copied. Throws std::bad_alloc.
 [[nodiscard]] std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters);
+
+/// The tokens of \a text by those of \a base and their corrections. zlib finds only those outside equal runs. Nothing
+/// if the corrections are damaged. Throws std::bad_alloc.
+[[nodiscard]] std::optional<DeflateTokens>
+CorrectedTokens(PackedBase const& base, Bytes text, DeflateParameters parameters, TokenCorrections const& corrections);
+
+/// The corrections that make the tokens of \a data, which is \a text deflated; nothing if there are too many, or if no
+/// part can be copied. The caller checks the result of CorrectedTokens. Throws std::bad_alloc.
+[[nodiscard]] std::optional<TokenCorrections> FindCorrections(PackedBase const& base, Bytes text,
+                                                              DeflateParameters parameters, Bytes data);
 
 } // namespace Pelnar::Engine

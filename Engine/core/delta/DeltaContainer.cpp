@@ -160,13 +160,14 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
         return errno == 0 ? DeltaOutcome{DeltaError::NotADelta, {}, 0} : SourceFailure();
     }
     std::uint64_t const format = ReadFixed(&header[8]);
-    bool const isKnown = format == static_cast<std::uint64_t>(DeltaFormat::Separate) ||
-                         format == static_cast<std::uint64_t>(DeltaFormat::Joined);
-    if (!std::equal(DELTA_MAGIC.begin(), DELTA_MAGIC.end(), header.begin()) || !isKnown)
+    bool const isSeparate = format == static_cast<std::uint64_t>(DeltaFormat::Separate);
+    bool const isJoined =
+        format == static_cast<std::uint64_t>(DeltaFormat::Joined) || format == FORMAT_WITHOUT_CORRECTIONS;
+    if (!std::equal(DELTA_MAGIC.begin(), DELTA_MAGIC.end(), header.begin()) || !(isSeparate || isJoined))
     {
         return {DeltaError::NotADelta, {}, 0};
     }
-    manifest.format = static_cast<DeltaFormat>(format);
+    manifest.format = isJoined ? DeltaFormat::Joined : DeltaFormat::Separate;
     std::uint64_t const storedBytes = ReadFixed(&header[16]);
     std::uint64_t const manifestBytes = ReadFixed(&header[24]);
     auto const fileSize = static_cast<std::uint64_t>(status.st_size);

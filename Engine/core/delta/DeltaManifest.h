@@ -85,8 +85,10 @@ struct StoredStream
 enum class DeltaFormat : std::uint8_t
 {
     Separate = 2, ///< the data of each file are separate
-    Joined = 3,   ///< the files' data are joined in streams
+    Joined = 4,   ///< the files' data are joined in streams
 };
+/// The joined format without corrections of tokens. It is read as Joined.
+constexpr std::uint64_t FORMAT_WITHOUT_CORRECTIONS = 3;
 
 struct DeltaManifest
 {

@@ -19,7 +19,10 @@ constexpr std::uint64_t MAX_BLOCKS = 1u << 16;
 constexpr std::uint8_t MAX_LEVEL = 9;
 constexpr std::uint8_t MAX_MEMORY = 9;
 constexpr std::uint8_t USUAL_MEMORY = 8;
-constexpr std::uint8_t COPIES_TOKENS = 16; ///< added to the level if tokens are copied from the old text
+constexpr std::uint8_t LEVEL_MASK = 15;
+constexpr std::uint8_t COPIES_TOKENS = 16;   ///< added to the level if tokens are copied from the old text
+constexpr std::uint8_t CORRECTS_TOKENS = 32; ///< the same, with corrections
+constexpr std::size_t TEXT_BYTES_FOR_CORRECTION_BYTE = 256; ///< with more corrections the delta would grow too much
 // Bits of the header's flags.
 constexpr std::uint8_t HAS_EXTRA = 4;
 constexpr std::uint8_t HAS_NAME = 8;
@@ -147,16 +150,32 @@ private:
     bool FindTokens()
     {
         std::uint8_t const level = m_recipe.Byte();
-        DeflateParameters const parameters{level & ~COPIES_TOKENS, m_recipe.Byte()};
+        DeflateParameters const parameters{level & LEVEL_MASK, m_recipe.Byte()};
         bool const isKnown = parameters.level >= 1 && parameters.level <= MAX_LEVEL && parameters.memory >= 1 &&
                              parameters.memory <= MAX_MEMORY;
+        int const copying = level - parameters.level;
         std::optional<DeflateTokens> tokens;
-        if (isKnown)
+        if (isKnown && copying == CORRECTS_TOKENS)
         {
-            tokens = level == parameters.level ? TokensOf(m_text, parameters) : TokensLike(m_base, m_text, parameters);
+            tokens = CorrectedTokens(m_base, m_text, parameters, TakeCorrections());
+        }
+        else if (isKnown && (copying == 0 || copying == COPIES_TOKENS))
+        {
+            tokens = copying == 0 ? TokensOf(m_text, parameters) : TokensLike(m_base, m_text, parameters);
         }
         m_tokens = std::move(tokens).value_or(DeflateTokens());
         return tokens.has_value();
+    }
+
+    TokenCorrections TakeCorrections()
+    {
+        TokenCorrections corrections;
+        for (std::uint64_t left = m_recipe.Count(MAX_CORRECTION_NUMBERS);
+             left > 0 && m_recipe.Error() == DeltaManifestError::None; --left)
+        {
+            corrections.push_back(m_recipe.Number());
+        }
+        return corrections;
     }
 
     bool WriteBlock(bool isLast)
@@ -209,6 +228,31 @@ bool IsRecipe(ByteBuffer const& recipe, Bytes text, Bytes file, PackedBase const
 {
     std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), text, file.size(), base);
     return made && View(*made) == file;
+}
+
+/// \a recipe with corrections of copied tokens; nothing if they take too much space, or do not make the file. The
+/// recipe's level is at \a levelAt.
+std::optional<ByteBuffer> CorrectedRecipe(ByteBuffer const& recipe, std::size_t levelAt, Bytes file, Bytes text,
+                                          PackedBase const& base)
+{
+    std::optional<TokenCorrections> const corrections =
+        FindCorrections(base, text, {recipe[levelAt], recipe[levelAt + 1]}, PackedDataOf(file));
+    if (!corrections)
+    {
+        return std::nullopt;
+    }
+    ByteBuffer numbers;
+    AppendNumber(numbers, corrections->size());
+    for (std::uint64_t const number : *corrections)
+    {
+        AppendNumber(numbers, number);
+    }
+    ByteBuffer corrected = recipe;
+    corrected[levelAt] |= CORRECTS_TOKENS;
+    corrected.insert(corrected.begin() + static_cast<std::ptrdiff_t>(levelAt + 2), numbers.begin(), numbers.end());
+    bool const isSmall = numbers.size() <= text.size() / TEXT_BYTES_FOR_CORRECTION_BYTE;
+    return isSmall && IsRecipe(corrected, text, file, base) ? std::optional<ByteBuffer>(std::move(corrected))
+                                                            : std::nullopt;
 }
 
 } // namespace
@@ -284,11 +328,16 @@ std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
 
 ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base)
 {
-    ByteBuffer faster = recipe;
     ManifestBytes::Reader reader(View(recipe));
     std::uint64_t const header = reader.Number();
     static_cast<void>(reader.Raw(header));
-    faster[recipe.size() - reader.Left()] |= COPIES_TOKENS;
+    std::size_t const levelAt = recipe.size() - reader.Left();
+    if (std::optional<ByteBuffer> corrected = CorrectedRecipe(recipe, levelAt, file, text, base))
+    {
+        return std::move(*corrected);
+    }
+    ByteBuffer faster = recipe;
+    faster[levelAt] |= COPIES_TOKENS;
     return IsRecipe(faster, text, file, base) ? faster : recipe;
 }
 

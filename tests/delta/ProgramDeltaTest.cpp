@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 namespace
@@ -203,6 +204,94 @@ TEST(ProgramDelta, HeadersOfNonsenseAreReadWithinTheFile)
         EXPECT_EQ(made, changed.size());
     }
     EXPECT_GT(programs, 300u) << "most are refused before anything is looked at";
+}
+
+/// What ProgramText makes of a run, field by field and without leaving any field out.
+ByteBuffer PlainlyMoved(Bytes program, std::vector<ImageSpan> const& newSpans, std::vector<PatchStep> const& steps,
+                        std::size_t position, std::size_t newPosition, std::size_t size)
+{
+    ImageLayout const layout = ReadImageLayout(program).value();
+    AddressMap const map(layout, newSpans, steps);
+    ByteBuffer made(program.begin() + static_cast<std::ptrdiff_t>(position),
+                    program.begin() + static_cast<std::ptrdiff_t>(position + size));
+    ResidentPages pages;
+    FieldScanner scanner(program, layout, pages);
+    AddressField field;
+    for (scanner.Start(position, position + size); scanner.Next(field);)
+    {
+        std::uint64_t const newAt = field.position - position + newPosition;
+        std::uint64_t const base = field.form == FieldForm::FromBase32 ? map.Find(field.base) : 0;
+        StoreField(field, AddressAt(newSpans, newAt).value_or(newAt), map.Find(field.target), base,
+                   made.data() + (field.position - position));
+    }
+    return made;
+}
+
+/// Code in which nearly every byte may open a field, so that fields overlap.
+void FillWithOpenings(ByteBuffer& program, std::mt19937& random)
+{
+    constexpr std::array<std::uint8_t, 10> OPENINGS{0xE8, 0xE9, 0x0F, 0x84, 0x05, 0x0D, 0x00, 0x00, 0x00, 0xFF};
+    ImageLayout const layout = ReadImageLayout(View(program)).value();
+    for (ImageRegion const& region : layout.regions)
+    {
+        for (std::size_t i = region.begin; region.kind == RegionKind::X86Code && i < region.end; ++i)
+        {
+            std::uint32_t const number = random();
+            program[i] = number % 16 == 0 ? static_cast<std::uint8_t>(number >> 8) : OPENINGS[number % OPENINGS.size()];
+        }
+    }
+}
+
+TEST(ProgramDelta, FieldsThatMoveWithTheirTargetsMayBeLeftOut)
+{
+    std::mt19937 random(11);
+    std::size_t changedRuns = 0;
+    for (int round = 0; round < 120; ++round)
+    {
+        SCOPED_TRACE(round);
+        ProgramShape shape;
+        shape.functions = 30 + random() % 300;
+        shape.loadedAt = random() % 2 * 0x1000;
+        ByteBuffer program = ForgeProgram(shape);
+        round % 4 != 0 ? FillWithOpenings(program, random) : static_cast<void>(0);
+        // Few runs, so that most pages move as a whole.
+        std::vector<PatchStep> steps;
+        std::size_t left = program.size();
+        while (left > 0 && steps.size() < 1 + random() % 5)
+        {
+            std::size_t const like = 1 + random() % left;
+            steps.push_back({like, random() % 3 * 8, 0});
+            left -= like;
+        }
+        steps.push_back({left, 0, 0});
+        std::vector<ImageSpan> spans = ReadImageLayout(View(program))->spans;
+        spans.back().size += 100;
+        if (round % 3 == 0)
+        {
+            // A new segment begins somewhere in the code.
+            std::uint32_t const end = spans.front().offset + spans.front().size;
+            std::uint32_t const cut = 200 + random() % (spans.front().size - 300);
+            spans.front().size = cut;
+            spans.insert(spans.begin() + 1, {spans.front().offset + cut, end - cut, 0x100000});
+        }
+        ProgramText text(View(program), *ReadImageSpans(View(program)), spans, steps);
+        for (int run = 0; run < 8; ++run)
+        {
+            std::size_t const begin = random() % program.size();
+            std::size_t const size = 1 + random() % (program.size() - begin);
+            std::size_t const newBegin = run == 0 ? begin : random() % 2 * 8 + begin;
+            ByteBuffer made;
+            text.Start(begin, newBegin, size);
+            for (Bytes piece = text.Next(); !piece.empty(); piece = text.Next())
+            {
+                made.insert(made.end(), piece.begin(), piece.end());
+            }
+            ByteBuffer const plain = PlainlyMoved(View(program), spans, steps, begin, newBegin, size);
+            ASSERT_EQ(made, plain);
+            changedRuns += View(made) != View(program).substr(begin, size);
+        }
+    }
+    EXPECT_GT(changedRuns, 120u * 4);
 }
 
 TEST(ProgramDelta, PatchOfTooManyStepsIsRefused)

@@ -1,9 +1,6 @@
 #include "Engine/core/delta/AddressFields.h"
 
-#include "Engine/core/delta/SixteenBytes.h"
-
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <utility>
 
@@ -61,20 +58,6 @@ WordRecord WordRecordOf(RegionKind kind)
                                              : WordRecord{1, 1};
 }
 
-/// A bit for each of 16 \a bytes after which a field may be. The highest byte of a distance is enough to rule out most
-/// distances that lead out of the program: it must be at most \a reach from 0.
-std::uint32_t OpeningsAmong(std::uint8_t const* bytes, std::uint8_t reach)
-{
-    SixteenBytes const first = Load(bytes);
-    SixteenBytes const second = Load(bytes + 1);
-    SixteenBytes const highest = Load(bytes + 4) + reach;
-    auto const isBranch = (first & 0xFE) == 0xE8;
-    auto const isMemory = (first & 0xC7) == 0x05;
-    auto const isConditional = (first == 0x0F) & ((second & 0xF0) == 0x80);
-    auto const isNear = highest <= static_cast<std::uint8_t>(std::min(2 * reach, 0xFF));
-    return BitsOf(reinterpret_cast<SixteenBytes>(((isBranch | isMemory) & isNear) | isConditional));
-}
-
 } // namespace
 
 FieldScanner::FieldScanner(Bytes file, ImageLayout const& layout, ResidentPages& pages)
@@ -99,6 +82,13 @@ void FieldScanner::Start(std::size_t begin, std::size_t end)
                                         regions.begin());
     m_isInRegion = false;
     m_frame = 0;
+    m_move.reset();
+}
+
+void FieldScanner::StartMoving(std::size_t begin, std::size_t end, RunMove const& move)
+{
+    Start(begin, end);
+    m_move = move;
 }
 
 void FieldScanner::ReachPart(std::size_t position)
@@ -121,8 +111,9 @@ bool FieldScanner::EnterRegion()
         {
             m_isInRegion = true;
             m_openings = 0;
-            m_openingsEnd = 0;
-            m_isInX86Code = region.kind == RegionKind::X86Code;
+            bool const isX86Code = region.kind == RegionKind::X86Code;
+            m_isInX86Code = isX86Code && !FindCodeShift();
+            m_openingsEnd = m_isInX86Code ? 0 : m_position;
             return true;
         }
     }
@@ -134,7 +125,7 @@ bool FieldScanner::NextInRegion(AddressField& field)
     switch (m_layout.regions[m_region].kind)
     {
     case RegionKind::X86Code:
-        return NextInX86Code(field);
+        return NextMovingInX86Code(field);
     case RegionKind::Arm64Code:
         return NextInArm64Code(field);
     case RegionKind::Words:
@@ -148,27 +139,6 @@ bool FieldScanner::NextInRegion(AddressField& field)
         return NextFrame(field);
     }
     return false;
-}
-
-/// Looks at the 64 bytes from m_position on, without a branch for each: one byte of ten is an opening, and none can be
-/// predicted.
-void FieldScanner::FindX86Openings()
-{
-    Reach(m_position);
-    constexpr std::size_t READ_BYTES = OPENINGS_BYTES + 4;
-    std::array<std::uint8_t, READ_BYTES> last{};
-    std::uint8_t const* bytes = m_file.data() + m_position;
-    if (m_file.size() - m_position < READ_BYTES)
-    {
-        std::copy_n(bytes, m_file.size() - m_position, last.data());
-        bytes = last.data();
-    }
-    m_openings = 0;
-    for (unsigned i = 0; i < OPENINGS_BYTES; i += 16)
-    {
-        m_openings |= std::uint64_t(OpeningsAmong(bytes + i, static_cast<std::uint8_t>(m_reach))) << i;
-    }
-    m_openingsEnd = m_position + OPENINGS_BYTES;
 }
 
 bool FieldScanner::NextInArm64Code(AddressField& field)

@@ -4,12 +4,14 @@
 // are safe.
 #pragma once
 
-#include "Engine/core/delta/ImageLayout.h"
+#include "Engine/core/delta/AddressMap.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -43,6 +45,14 @@ inline std::uint64_t SignExtended(std::uint64_t value, unsigned bits)
     return ((value & ((sign << 1) - 1)) ^ sign) - sign;
 }
 
+/// How a run of old bytes moves. Refers to the map and the segments, which outlive it.
+struct RunMove
+{
+    AddressMap const* map;
+    std::vector<ImageSpan> const* newSpans; ///< that share no bytes of the file
+    std::uint64_t shift;                    ///< the new position minus the old one, modulo 2^64
+};
+
 // What runs for each byte or field of code is inline: a program has hundreds of thousands of fields.
 class FieldScanner
 {
@@ -53,13 +63,21 @@ public:
     /// From now on Next() returns the fields that are completely between \a begin and \a end, in ascending order and
     /// without overlaps.
     void Start(std::size_t begin, std::size_t end);
+    /// The same, but Next() may leave out fields of x86-64 code that are equal in the new file because they and their
+    /// targets move alike. Most fields of most programs are.
+    void StartMoving(std::size_t begin, std::size_t end, RunMove const& move);
     [[nodiscard]] bool Next(AddressField& field);
 
 private:
     bool EnterRegion();
     bool NextInRegion(AddressField& field);
     bool NextInX86Code(AddressField& field);
-    void FindX86Openings();
+    bool NextMovingInX86Code(AddressField& field);
+    void FindX86Openings(std::size_t begin);
+    std::size_t SkipBlocks(std::size_t begin);
+    std::size_t EndOfX86Field(std::size_t opening) const;
+    [[nodiscard]] bool IsFree(std::size_t position);
+    bool FindCodeShift();
     bool NextInArm64Code(AddressField& field);
     bool NextWord(AddressField& field);
     bool NextOffset(AddressField& field);
@@ -112,7 +130,12 @@ private:
     std::size_t m_openingsEnd = 0; ///< 0 when no bytes have been looked at
     std::uint64_t m_shift = 0;     ///< the region's addresses minus its positions
     bool m_isInRegion = false;
-    bool m_isInX86Code = false;
+    bool m_isInX86Code = false;    ///< and all of its fields are wanted
+    std::optional<RunMove> m_move; ///< empty if all fields are wanted
+    std::uint32_t m_codeShift = 0; ///< the new address minus the old one of the current code, if that code is x86-64's
+    std::uint64_t m_othersBegin = 0; ///< the place of all addresses that do not move by m_codeShift
+    std::uint64_t m_othersSize = 0;  ///< 0 if it is large or empty
+    std::uint64_t m_block = 0;       ///< m_openings before any was taken
     std::size_t m_frame = 0; ///< the second field of the frame record whose first one was returned last; 0 for none
 };
 
@@ -139,7 +162,7 @@ inline bool FieldScanner::NextInX86Code(AddressField& field)
         if (m_openings == 0)
         {
             m_position = std::max(m_position, m_openingsEnd);
-            FindX86Openings();
+            FindX86Openings(m_position);
             continue;
         }
         std::size_t const position =

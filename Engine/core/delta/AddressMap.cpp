@@ -126,6 +126,13 @@ void AddressMap::MakeIndex()
         // The first point is at 0, so every page has a point before it.
         m_pages[page] = {static_cast<std::uint32_t>(point), m_points[point - 1].shift};
     }
+    m_pageShifts.resize(pages, MIXED_SHIFT);
+    for (std::size_t page = 0; page < pages; ++page)
+    {
+        std::size_t const end = page + 1 < pages ? m_pages[page + 1].firstPoint : m_points.size();
+        // The points behind the page's begin, up to that of the next page.
+        m_pageShifts[page] = m_pages[page].firstPoint == end ? m_pages[page].shift : MIXED_SHIFT;
+    }
 }
 
 } // namespace Pelnar::Engine

@@ -25,6 +25,31 @@ public:
     /// The new address of what was at \a address. It moves with the longest run of bytes that contains it, or else with
     /// the run before it. REQUIRES: an address within the old image.
     std::uint64_t Find(std::uint64_t address) const;
+    /// True if all addresses on the page of \a address move by \a shift, which is not MIXED_SHIFT. An address outside
+    /// the old image gives any answer.
+    bool MovesWithPage(std::uint64_t address, std::uint32_t shift) const
+    {
+        std::size_t const page = static_cast<std::uint32_t>(address - m_lowest) >> PAGE_BITS;
+        return m_pageShifts[std::min(page, m_pageShifts.size() - 1)] == shift;
+    }
+    struct Range
+    {
+        std::uint64_t begin;
+        std::uint64_t end;
+    };
+    /// A range with all addresses that do not move by \a shift; empty if there are none.
+    Range MovingOtherwise(std::uint32_t shift) const
+    {
+        std::size_t const first = m_points.front().shift == shift ? 1 : 0;
+        if (first == m_points.size())
+        {
+            return {m_lowest, m_lowest};
+        }
+        std::uint64_t const end = m_points.back().shift == shift ? m_points.back().begin : std::uint64_t(1) << 32;
+        return {m_lowest + m_points[first].begin, m_lowest + end};
+    }
+    /// The shift of a page whose addresses move differently. It is larger than an image.
+    static constexpr std::uint32_t MIXED_SHIFT = 0x80000000;
     /// True if every address stays as it is.
     bool IsUnchanged() const { return m_points.size() == 1 && m_points.front().shift == 0; }
 
@@ -54,8 +79,9 @@ private:
     void MakeIndex();
 
     std::uint64_t m_lowest;
-    std::vector<Point> m_points; ///< in ascending order; the first is at 0
-    std::vector<Page> m_pages;   ///< up to the page of the last point, and one more
+    std::vector<Point> m_points;             ///< in ascending order; the first is at 0
+    std::vector<Page> m_pages;               ///< up to the page of the last point, and one more
+    std::vector<std::uint32_t> m_pageShifts; ///< of m_pages
 };
 
 inline std::uint64_t AddressMap::Find(std::uint64_t address) const

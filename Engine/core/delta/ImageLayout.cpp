@@ -17,6 +17,7 @@ namespace
 constexpr std::uint64_t MAX_IMAGE_REACH = 0xFFFFFFFF;
 constexpr std::size_t MAX_SECTIONS = 1024;
 constexpr std::uint64_t FRAME_INDEX_HEADER_BYTES = 12;
+constexpr std::uint64_t TABLE_WORD_BYTES = 4;
 constexpr std::uint8_t LEA = 0x8D;
 constexpr std::ptrdiff_t LEA_BYTES = 6; ///< with the distance
 constexpr std::uint8_t RELATIVE_MASK = 0xC7;
@@ -31,6 +32,18 @@ bool ReadRecord(Bytes file, std::uint64_t offset, Record& record)
     }
     std::memcpy(&record, file.data() + offset, sizeof(Record));
     return true;
+}
+
+/// A bit for each of 64 \a bytes where an LEA with a distance begins.
+std::uint64_t RelativeLeasAmong(std::uint8_t const* bytes)
+{
+    std::uint64_t bits = 0;
+    for (unsigned i = 0; i < 64; i += 16)
+    {
+        auto const isRelative = (Load(bytes + i) == LEA) & ((Load(bytes + i + 1) & RELATIVE_MASK) == RELATIVE);
+        bits |= std::uint64_t(BitsOf(reinterpret_cast<SixteenBytes>(isRelative))) << i;
+    }
+    return bits;
 }
 
 class LayoutReader
@@ -229,28 +242,30 @@ private:
             return;
         }
         std::uint64_t const shift = *address - region.begin;
+        bool const areAligned = KeepSpansAlignment();
         auto const take = [&](std::uint8_t const* lea)
         {
             std::int32_t distance;
             std::memcpy(&distance, lea + 2, sizeof distance);
             auto const next = static_cast<std::uint64_t>(lea + LEA_BYTES - m_file.data()) + shift;
             std::uint64_t const target = next + static_cast<std::uint64_t>(std::int64_t(distance));
-            if (!m_layout.IsInCode(target))
+            bool const mayBeTable = !areAligned || target % TABLE_WORD_BYTES == 0;
+            if (mayBeTable && !m_layout.IsInCode(target))
             {
                 AddIfTable(target, begins);
             }
         };
-        while (end - at >= 16 + LEA_BYTES)
+        constexpr std::ptrdiff_t BLOCK_BYTES = 64;
+        while (end - at >= BLOCK_BYTES + LEA_BYTES)
         {
             auto const part = std::min<std::ptrdiff_t>(end - at, RESIDENT_PART_BYTES);
             m_pages.Touch(0, static_cast<std::size_t>(at - m_file.data()), static_cast<std::size_t>(part));
-            for (std::uint8_t const* const partEnd = at + part; partEnd - at >= 16 + LEA_BYTES; at += 16)
+            for (std::uint8_t const* const partEnd = at + part; partEnd - at >= BLOCK_BYTES + LEA_BYTES;
+                 at += BLOCK_BYTES)
             {
-                auto const isRelative = (Load(at) == LEA) & ((Load(at + 1) & RELATIVE_MASK) == RELATIVE);
-                for (std::uint32_t bits = BitsOf(reinterpret_cast<SixteenBytes>(isRelative)); bits != 0;
-                     bits &= bits - 1)
+                for (std::uint64_t bits = RelativeLeasAmong(at); bits != 0; bits &= bits - 1)
                 {
-                    take(at + __builtin_ctz(bits));
+                    take(at + __builtin_ctzll(bits));
                 }
             }
         }
@@ -263,10 +278,17 @@ private:
         }
     }
 
+    /// True if a place is at a multiple of 4 in the file exactly if its address is one.
+    bool KeepSpansAlignment() const
+    {
+        return std::all_of(m_layout.spans.begin(), m_layout.spans.end(),
+                           [](ImageSpan const& span) { return (span.address - span.offset) % TABLE_WORD_BYTES == 0; });
+    }
+
     void AddIfTable(std::uint64_t address, std::vector<std::uint32_t>& begins) const
     {
         std::optional<std::uint64_t> const offset = OffsetOf(m_layout.spans, address);
-        bool const isTable = offset && *offset % 4 == 0 && IsCodeFrom(address, *offset) &&
+        bool const isTable = offset && *offset % TABLE_WORD_BYTES == 0 && IsCodeFrom(address, *offset) &&
                              IsCodeFrom(address, *offset + 4) && IsCodeFrom(address, *offset + 8);
         if (isTable)
         {

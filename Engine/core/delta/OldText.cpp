@@ -5,6 +5,22 @@
 
 namespace Pelnar::Engine
 {
+namespace
+{
+
+constexpr std::uint64_t LEAST_PLAIN_BYTES = 1024;
+
+/// True if no two \a spans share bytes of the file.
+bool AreSeparate(std::vector<ImageSpan> const& spans)
+{
+    std::vector<ImageSpan> sorted = spans;
+    std::sort(sorted.begin(), sorted.end(), [](ImageSpan a, ImageSpan b) { return a.offset < b.offset; });
+    return std::adjacent_find(sorted.begin(), sorted.end(),
+                              [](ImageSpan a, ImageSpan b)
+                              { return std::uint64_t(a.offset) + a.size > b.offset; }) == sorted.end();
+}
+
+} // namespace
 
 PlainText::PlainText(std::vector<Bytes> files, ResidentPages pages)
     : m_files(std::move(files)), m_pages(std::move(pages))
@@ -48,6 +64,7 @@ ProgramText::ProgramText(Bytes program, ImageLayout layout, std::vector<ImageSpa
     , m_layout(std::move(layout))
     , m_map(m_layout, m_newSpans, steps)
     , m_isUnmoved(m_map.IsUnchanged() && m_newSpans == m_layout.spans)
+    , m_areSpansSeparate(AreSeparate(m_newSpans))
 {
 }
 
@@ -56,8 +73,10 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
     m_position = position;
     m_left = size;
     m_shift = newPosition - position;
-    if (IsUnchanged())
+    m_hasField = false;
+    if (m_isUnmoved && m_shift == 0)
     {
+        // No address of the run changes: nothing in the program has moved, and the run keeps its place.
         return;
     }
     if (!m_scanner)
@@ -65,16 +84,23 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
         ReadImageRegions(m_program, m_layout, m_pages);
         m_scanner.emplace(m_program, m_layout, m_pages);
     }
-    m_scanner->Start(static_cast<std::size_t>(position), static_cast<std::size_t>(position + size));
+    auto const begin = static_cast<std::size_t>(position);
+    auto const end = static_cast<std::size_t>(position + size);
+    m_areSpansSeparate ? m_scanner->StartMoving(begin, end, {&m_map, &m_newSpans, m_shift})
+                       : m_scanner->Start(begin, end);
     m_hasField = m_scanner->Next(m_field);
 }
 
 Bytes ProgramText::Next()
 {
     std::uint64_t const begin = m_position;
-    std::uint64_t end = begin + std::min<std::uint64_t>(m_left, IsUnchanged() ? RESIDENT_PART_BYTES : m_piece.size());
+    // Bytes far before the next field need no copy.
+    std::uint64_t const plain = m_hasField ? m_field.position - begin : m_left;
+    m_isPlain = plain == m_left || plain >= LEAST_PLAIN_BYTES;
+    std::uint64_t end = begin + (m_isPlain ? std::min<std::uint64_t>(plain, RESIDENT_PART_BYTES)
+                                           : std::min<std::uint64_t>(m_left, m_piece.size()));
     m_pages.Touch(0, static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
-    if (IsUnchanged())
+    if (m_isPlain)
     {
         m_left -= end - begin;
         m_position = end;

@@ -24,6 +24,8 @@ public:
     virtual void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) = 0;
     /// The next piece of the run; empty only at its end. It is valid until the next call.
     virtual Bytes Next() = 0;
+    /// True if the last piece stays valid as long as the files' bytes.
+    virtual bool IsLasting() const = 0;
 };
 
 /// Files, one after the other, unchanged.
@@ -35,6 +37,7 @@ public:
     std::uint64_t Size() const override { return m_ends.empty() ? 0 : m_ends.back(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
     Bytes Next() override;
+    bool IsLasting() const override { return true; }
 
 private:
     std::vector<Bytes> m_files;
@@ -57,11 +60,10 @@ public:
     std::uint64_t Size() const override { return m_program.size(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
     Bytes Next() override;
+    bool IsLasting() const override { return m_isPlain; }
 
 private:
     void Change(AddressField const& field, std::uint8_t* bytes);
-    /// True if no address of the run changes: nothing in the program has moved, and the run keeps its place.
-    bool IsUnchanged() const { return m_isUnmoved && m_shift == 0; }
 
     Bytes m_program;
     ResidentPages m_pages; ///< of the program
@@ -70,8 +72,10 @@ private:
     AddressMap m_map;
     std::optional<FieldScanner> m_scanner; ///< empty until it is needed
     bool m_isUnmoved;
+    bool m_areSpansSeparate;
     AddressField m_field; ///< the next one
     bool m_hasField = false;
+    bool m_isPlain = false; ///< the last piece has no field
     std::uint64_t m_position = 0;
     std::uint64_t m_left = 0;
     std::uint64_t m_shift = 0; ///< the new position minus the old one, modulo 2^64

@@ -1,4 +1,5 @@
 #include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/PatchApplier.h"
 #include "tests/delta/SeparateDelta.h"
 
 #include <gtest/gtest.h>
@@ -6,7 +7,9 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <memory>
 #include <random>
+#include <vector>
 
 namespace
 {
@@ -245,6 +248,64 @@ TEST(BinaryPatch, SinkThatRefusesEndsTheWork)
                   PatchVerdict::SinkRefused);
         EXPECT_EQ(calls, 1);
     }
+}
+
+TEST(PatchApplier, PiecesStayAsLongAsPromisedWhateverTheSizesOfFiles)
+{
+    ByteSource const endless = [](std::uint8_t* target, std::size_t size)
+    {
+        std::fill_n(target, size, std::uint8_t(1));
+        return size;
+    };
+    PatchSources const sources{endless, endless, endless, endless, endless};
+    auto const applier = std::make_unique<PatchApplier>(sources);
+    std::vector<std::uint8_t const*> pieces;
+    auto const sink = [&pieces](Bytes piece)
+    {
+        std::size_t const recent = std::min(pieces.size(), PIECES_AHEAD);
+        EXPECT_EQ(std::count(pieces.end() - static_cast<std::ptrdiff_t>(recent), pieces.end(), piece.data()), 0);
+        pieces.push_back(piece.data());
+        return true;
+    };
+    // Files that end with a whole piece, and empty ones.
+    for (std::size_t const size : {1, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 1, 2, 1, 0, 1, 1, 1, 1})
+    {
+        ASSERT_EQ(applier->MakeWhole(size * PATCH_PIECE_BYTES, sink), PatchVerdict::Applied);
+    }
+    EXPECT_EQ(pieces.size(), 11u);
+}
+
+TEST(PatchApplier, WholePiecesOfTheOldFileAreNotCopied)
+{
+    std::mt19937 random(3);
+    ByteBuffer const oldFile = RandomBytes(random, 3 * PATCH_PIECE_BYTES, 256);
+    ByteBuffer expected = oldFile;
+    expected[100] = static_cast<std::uint8_t>(expected[100] + 1);
+    ByteBuffer steps;
+    ByteBuffer same{100};
+    AppendNumber(steps, oldFile.size());
+    AppendNumber(steps, 0);
+    AppendNumber(steps, 0);
+    AppendNumber(same, oldFile.size() - 101);
+    ByteBuffer const one{1};
+    ByteBuffer const none;
+    PatchSources const sources{Reader(steps), Reader(same), Reader(one), Reader(one), Reader(none)};
+    auto const applier = std::make_unique<PatchApplier>(sources);
+    ByteBuffer made;
+    std::size_t uncopied = 0;
+    auto const sink = [&](Bytes piece)
+    {
+        bool const isOld = piece.data() >= oldFile.data() && piece.data() < oldFile.data() + oldFile.size();
+        uncopied += isOld ? piece.size() : 0;
+        EXPECT_LE(piece.size(), PATCH_PIECE_BYTES);
+        made.insert(made.end(), piece.begin(), piece.end());
+        return true;
+    };
+    PlainText old({View(oldFile)});
+    ASSERT_EQ(applier->Make(old, oldFile.size(), sink), PatchVerdict::Applied);
+    EXPECT_TRUE(applier->IsUsedUp());
+    EXPECT_EQ(made, expected);
+    EXPECT_EQ(uncopied, 2 * PATCH_PIECE_BYTES);
 }
 
 } // namespace

@@ -6,7 +6,9 @@
 
 #include <array>
 #include <cerrno>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
@@ -116,6 +118,35 @@ TEST(PieceWriter, PiecesMayChangeOnceSoManyMoreAreTaken)
     {
         EXPECT_TRUE(ContentOf(files[i].Get()) == contents[i]) << i;
         EXPECT_EQ(entries[i].hash, HashOf(View(contents[i]))) << i;
+    }
+}
+
+TEST(PieceWriter, KeepsOldFilesUntilTheirPiecesAreWritten)
+{
+    PieceWriter writer;
+    std::vector<DeltaEntry> entries(20);
+    std::vector<UniqueFd> files;
+    std::vector<std::string> contents;
+    std::vector<std::weak_ptr<std::string const>> oldFiles;
+    for (DeltaEntry& entry : entries)
+    {
+        auto old = std::make_shared<std::string const>(3 * LARGE, static_cast<char>('a' + files.size()));
+        contents.push_back(*old);
+        oldFiles.push_back(old);
+        Bytes const bytes = View(*old);
+        writer.Start(CopyOf(files.emplace_back(NewFile())), entry, std::move(old));
+        for (std::size_t i = 0; i < 3; ++i)
+        {
+            ASSERT_TRUE(writer.Add(bytes.substr(i * LARGE, LARGE)));
+        }
+        writer.End();
+    }
+    EXPECT_TRUE(writer.Finish().HasSucceeded());
+    for (std::size_t i = 0; i < entries.size(); ++i)
+    {
+        EXPECT_EQ(ContentOf(files[i].Get()), contents[i]);
+        EXPECT_EQ(entries[i].hash, HashOf(View(contents[i])));
+        EXPECT_TRUE(oldFiles[i].expired());
     }
 }
 

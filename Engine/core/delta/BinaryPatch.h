@@ -71,9 +71,9 @@ using PatchSources = std::array<ByteSource, PATCH_STREAMS>;
 /// The pieces in which new bytes come are no larger.
 constexpr std::size_t PATCH_PIECE_BYTES = 64 * 1024;
 /// The number of pieces before the current one that stay unchanged.
-constexpr std::size_t PIECES_AHEAD = 7;
-/// Takes the next bytes of the new file, which stay unchanged until PIECES_AHEAD more calls have returned. False if
-/// they cannot be written.
+constexpr std::size_t PIECES_AHEAD = 15;
+/// Takes the next bytes of the new file. They are bytes of an old file, or stay unchanged until PIECES_AHEAD more calls
+/// have returned. False if they cannot be written.
 using ByteSink = std::function<bool(Bytes bytes)>;
 
 enum class PatchVerdict

@@ -32,6 +32,8 @@ std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const&
     return streams;
 }
 
+using Mappings = std::vector<std::unique_ptr<FileMapping>>;
+
 class Applier
 {
 public:
@@ -134,7 +136,9 @@ private:
 
     DeltaOutcome MakeUnit(DeltaUnit const& unit)
     {
-        std::vector<std::unique_ptr<FileMapping>> mappings(unit.sources.size());
+        auto const oldFiles = std::make_shared<Mappings>(unit.sources.size());
+        Mappings& mappings = *oldFiles;
+        m_oldFiles = oldFiles;
         std::vector<Bytes> files;
         for (std::size_t i = 0; i < mappings.size(); ++i)
         {
@@ -165,7 +169,7 @@ private:
     {
         UniqueFd file;
         DeltaOutcome const outcome = m_files.MakeFile(entry, file);
-        m_writer.Start(std::move(file), entry);
+        m_writer.Start(std::move(file), entry, m_oldFiles);
         errno = 0;
         return outcome;
     }
@@ -245,7 +249,8 @@ private:
         }
         if (outcome.HasSucceeded())
         {
-            m_packing.Post(std::move(file));
+            bool const isLast = &entry == &m_manifest.entries[m_manifest.units.back().targets.back()];
+            isLast ? m_packing.PostLast(std::move(file)) : m_packing.Post(std::move(file));
         }
         // A large text is packed alone, to limit the memory.
         bool const isLarge = m_packing.Bytes() > MAX_PACKING_BYTES;
@@ -312,6 +317,7 @@ private:
     std::vector<DeltaStream> m_streams;
     PatchSources m_sources;
     PatchApplier m_patches;
+    std::shared_ptr<Mappings const> m_oldFiles; ///< of the current unit
     KeptFiles m_kept;
     PackingThread m_packing;
     ByteSink const m_sink = [this](Bytes piece) { return m_writer.Add(piece); };

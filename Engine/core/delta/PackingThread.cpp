@@ -15,10 +15,27 @@ void PackedFile::Pack()
     }
 }
 
+PackedFile& PackingThread::Append(std::unique_ptr<PackedFile> file)
+{
+    m_bytes += file->Bytes();
+    return *m_files.emplace_back(std::move(file));
+}
+
+void PackingThread::PostLast(std::unique_ptr<PackedFile> file)
+{
+    if (m_tasks.Waiting() > 0)
+    {
+        Post(std::move(file));
+        return;
+    }
+    PackedFile& last = Append(std::move(file));
+    last.Pack();
+    last.isDone = true;
+}
+
 void PackingThread::Post(std::unique_ptr<PackedFile> file)
 {
-    PackedFile& posted = *m_files.emplace_back(std::move(file));
-    m_bytes += posted.Bytes();
+    PackedFile& posted = Append(std::move(file));
     m_tasks.Post(
         [&posted]
         {

@@ -35,6 +35,8 @@ class PackingThread
 {
 public:
     void Post(std::unique_ptr<PackedFile> file);
+    /// The same for a file after which nothing else is made: packs it at once if the thread has nothing to do.
+    void PostLast(std::unique_ptr<PackedFile> file);
     /// Returns the next file in the order of Post; null if it is not done yet.
     [[nodiscard]] std::unique_ptr<PackedFile> TakeDone();
     /// The bytes of all posted texts that have not been taken.
@@ -43,6 +45,8 @@ public:
     void Finish() { m_tasks.Finish(); }
 
 private:
+    PackedFile& Append(std::unique_ptr<PackedFile> file);
+
     std::deque<std::unique_ptr<PackedFile>> m_files; ///< in the order of Post
     std::size_t m_bytes = 0;
     TaskThread m_tasks{static_cast<std::size_t>(-1)}; ///< last, because its thread uses the files

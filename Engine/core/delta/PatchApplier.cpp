@@ -227,7 +227,7 @@ PatchVerdict PatchApplier::TakeLike(IOldText& old, std::uint64_t newPosition, st
     while (size > 0)
     {
         Bytes const piece = old.Next();
-        if (PatchVerdict const verdict = TakeLike(piece); verdict != PatchVerdict::Applied)
+        if (PatchVerdict const verdict = TakeLike(piece, old.IsLasting()); verdict != PatchVerdict::Applied)
         {
             return verdict;
         }
@@ -236,7 +236,8 @@ PatchVerdict PatchApplier::TakeLike(IOldText& old, std::uint64_t newPosition, st
     return PatchVerdict::Applied;
 }
 
-PatchVerdict PatchApplier::TakeLike(Bytes old)
+/// \a isLasting: the bytes stay valid, so that whole pieces of them need no copy.
+PatchVerdict PatchApplier::TakeLike(Bytes old, bool isLasting)
 {
     while (!old.empty())
     {
@@ -246,6 +247,16 @@ PatchVerdict PatchApplier::TakeLike(Bytes old)
             {
                 return verdict;
             }
+            continue;
+        }
+        if (isLasting && m_sameLeft >= PATCH_PIECE_BYTES && old.size() >= PATCH_PIECE_BYTES)
+        {
+            if (!Flush() || !(*m_sink)(old.substr(0, PATCH_PIECE_BYTES)))
+            {
+                return PatchVerdict::SinkRefused;
+            }
+            m_sameLeft -= PATCH_PIECE_BYTES;
+            old.remove_prefix(PATCH_PIECE_BYTES);
             continue;
         }
         std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
@@ -305,10 +316,14 @@ bool PatchApplier::Advance(std::size_t count)
 
 bool PatchApplier::Flush()
 {
-    std::size_t const count = std::exchange(m_filled, 0);
-    Bytes const piece(m_pieces[m_current].data(), count);
+    if (m_filled == 0)
+    {
+        // The next buffer becomes free only with the next piece.
+        return true;
+    }
+    Bytes const piece(m_pieces[m_current].data(), std::exchange(m_filled, 0));
     m_current = (m_current + 1) % m_pieces.size();
-    return count == 0 || (*m_sink)(piece);
+    return (*m_sink)(piece);
 }
 
 } // namespace Pelnar::Engine

@@ -71,7 +71,7 @@ private:
     PatchVerdict Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink, TakeNextStep const& takeNextStep);
     PatchVerdict TakeRun();
     PatchVerdict TakeLike(IOldText& old, std::uint64_t newPosition, std::uint64_t size);
-    PatchVerdict TakeLike(Bytes old);
+    PatchVerdict TakeLike(Bytes old, bool isLasting);
     PatchVerdict TakeExtra(std::uint64_t size);
     /// How many of \a size bytes fit into the current piece.
     std::size_t FittingBytes(std::uint64_t size) const;

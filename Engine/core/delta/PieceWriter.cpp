@@ -8,40 +8,42 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t MANY_PIECES = 5; ///< with this many pieces without hash or unwritten, the caller writes
+constexpr std::size_t MANY_PIECES = 12; ///< with this many pieces without hash or unwritten, the caller writes
 
 } // namespace
 
-void PieceWriter::Start(UniqueFd file, DeltaEntry& entry)
+void PieceWriter::Start(UniqueFd file, DeltaEntry& entry, std::shared_ptr<void const> oldFiles)
 {
-    m_file = std::make_shared<File>(File{std::move(file), entry, 0});
+    m_file = std::make_shared<File>(File{std::move(file), entry, std::move(oldFiles), 0});
 }
 
 bool PieceWriter::Add(Bytes piece)
+{
+    return Add(piece, nullptr);
+}
+
+bool PieceWriter::Add(ByteBuffer piece)
+{
+    auto const owned = std::make_shared<ByteBuffer const>(std::move(piece));
+    return Add(View(*owned), owned);
+}
+
+bool PieceWriter::Add(Bytes piece, std::shared_ptr<ByteBuffer const> const& owned)
 {
     std::uint64_t const place = m_file->bytes;
     m_file->bytes += piece.size();
     if (m_tasks.Waiting() == 0 && piece.size() < PATCH_PIECE_BYTES)
     {
-        // Waking the thread takes longer than writing less than a whole piece. Earlier pieces may be unwritten, and the
-        // caller will soon change them.
+        // Starting or waking the thread takes longer than writing less than a whole piece. Earlier pieces may be
+        // unwritten, and the caller will soon change them.
         WriteUntil(0);
         Write(*m_file, place, piece);
         m_hasher.Add(piece);
     }
     else
     {
-        Post({m_file, place, piece, nullptr});
+        Post({m_file, place, piece, owned});
     }
-    return IsGood();
-}
-
-bool PieceWriter::Add(ByteBuffer piece)
-{
-    std::uint64_t const place = m_file->bytes;
-    m_file->bytes += piece.size();
-    auto const owned = std::make_shared<ByteBuffer const>(std::move(piece));
-    Post({m_file, place, View(*owned), owned});
     return IsGood();
 }
 
@@ -51,7 +53,7 @@ void PieceWriter::Post(Piece const& piece)
         std::lock_guard const lock(m_mutex);
         m_unwritten.push_back(piece);
     }
-    m_tasks.Post([this, bytes = piece.bytes, owned = piece.owned] { HashAndWrite(bytes); });
+    m_tasks.Post([this, piece] { HashAndWrite(piece.bytes); });
     // The thread writes what is left while the caller prepares the next file.
     bool const isBehind = m_tasks.Waiting() >= MANY_PIECES || Unwritten() >= MANY_PIECES;
     if (std::unique_lock const writing(m_writing, std::try_to_lock); isBehind && writing && Unwritten() > 1)

@@ -18,10 +18,11 @@ namespace Pelnar::Engine
 class PieceWriter
 {
 public:
-    /// Begins a file. \a entry gets its hash before Finish returns.
-    void Start(UniqueFd file, DeltaEntry& entry);
-    /// Takes the file's next piece. The caller must not change it until PIECES_AHEAD more calls of Add, or one of
-    /// Finish, have returned. Returns false and sets errno if a piece of any file could not be written.
+    /// Begins a file. \a entry gets its hash before Finish returns. \a oldFiles live until all its pieces are written.
+    void Start(UniqueFd file, DeltaEntry& entry, std::shared_ptr<void const> oldFiles = nullptr);
+    /// Takes the file's next piece. Unless it is of the old files, the caller must not change it until PIECES_AHEAD
+    /// more calls of Add, or one of Finish, have returned. Returns false and sets errno if a piece of any file could
+    /// not be written.
     [[nodiscard]] bool Add(Bytes piece);
     /// The same for a piece that the writer then owns.
     [[nodiscard]] bool Add(ByteBuffer piece);
@@ -35,7 +36,8 @@ private:
     {
         UniqueFd fd;
         DeltaEntry& entry;
-        std::uint64_t bytes; ///< of the pieces so far
+        std::shared_ptr<void const> oldFiles; ///< pieces may be parts of them
+        std::uint64_t bytes;                  ///< of the pieces so far
     };
 
     struct Piece
@@ -46,6 +48,7 @@ private:
         std::shared_ptr<ByteBuffer const> owned; ///< null if the caller keeps the bytes
     };
 
+    bool Add(Bytes piece, std::shared_ptr<ByteBuffer const> const& owned);
     void Post(Piece const& piece);
     /// Hashes a piece in the thread, and writes if no other pieces wait for their hash.
     void HashAndWrite(Bytes piece);

@@ -7,23 +7,6 @@
 namespace Pelnar::Demo
 {
 
-std::optional<App::UpdateCheckMode> ModeFromText(QString const& text)
-{
-    if (text == QLatin1String("user"))
-    {
-        return App::UpdateCheckMode::UserInitiated;
-    }
-    if (text == QLatin1String("automatic"))
-    {
-        return App::UpdateCheckMode::Automatic;
-    }
-    if (text == QLatin1String("silent"))
-    {
-        return App::UpdateCheckMode::Silent;
-    }
-    return std::nullopt;
-}
-
 QUrl FeedAddress(QString const& text)
 {
     bool const isAddress =

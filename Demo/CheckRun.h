@@ -10,13 +10,9 @@
 #include <QUrl>
 
 #include <functional>
-#include <optional>
 
 namespace Pelnar::Demo
 {
-
-/// "user", "automatic" or "silent"; empty for any other text.
-std::optional<App::UpdateCheckMode> ModeFromText(QString const& text);
 
 /// An address if \a text has the form of one ("https://…"), otherwise the file: address of the path \a text, made
 /// absolute.

@@ -6,6 +6,7 @@
 #include "Demo/DemoOptions.h"
 #include "Demo/DemoWindow.h"
 #include "Demo/EngineDefaults.h"
+#include "Demo/HostOptions.h"
 #include "Demo/NamedAuthorities.h"
 #include "Demo/ScriptRun.h"
 #include "Demo/WindowCamera.h"
@@ -110,6 +111,11 @@ int Main(int argc, char** argv)
         TrustNamedAuthorities();
         return RunDemo(application, ParseDemoOptions(ArgumentsOrEnvironment(arguments),
                                                      ReadBundle().value_or(UnbundledApplication())));
+    }
+    catch (HelpRequest const& help)
+    {
+        std::printf("%s\n", help.text.toUtf8().constData());
+        return EXIT_SUCCESS;
     }
     catch (std::runtime_error const& error)
     {

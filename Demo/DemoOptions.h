@@ -48,7 +48,7 @@ struct DemoOptions
 App::Customization UnbundledApplication();
 
 /// \a arguments begin with the program's name; \a application has the default values. Throws std::runtime_error whose
-/// text says what is wrong with the arguments. Prints the help and ends the process if an argument requests it.
+/// text says what is wrong with the arguments, and HelpRequest.
 DemoOptions ParseDemoOptions(QStringList const& arguments, App::Customization const& application);
 
 /// \a arguments, or, if they are only the program's name, those of the environment variable PELNAR_DEMO_OPTIONS: an

@@ -5,6 +5,7 @@
 #include "Demo/CheckFailureLog.h"
 #include "Demo/CheckRun.h"
 #include "Demo/EngineDefaults.h"
+#include "Demo/HostOptions.h"
 #include "Demo/UpdateCheckOptions.h"
 #include "Demo/UpdateCheckReport.h"
 #include "Foundation/IsolatedUserDefaults.h"
@@ -19,6 +20,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <stdexcept>
 
 namespace Pelnar::Demo
 {
@@ -168,18 +170,21 @@ int Main(int argc, char** argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
 
-    auto const parsed = ParseUpdateCheckOptions(arguments);
-    if (auto const* const error = std::get_if<UsageError>(&parsed))
+    UpdateCheckOptions options;
+    try
     {
-        PrintLine(stderr, "pelnar-update-check: " + error->text.toUtf8() + "; see --help");
-        return STATUS_BAD_ARGUMENTS;
+        options = ParseUpdateCheckOptions(arguments);
     }
-    if (auto const* const help = std::get_if<UsageHelp>(&parsed))
+    catch (HelpRequest const& help)
     {
-        PrintLine(stdout, help->text.trimmed().toUtf8());
+        PrintLine(stdout, help.text.toUtf8());
         return 0;
     }
-    auto const& options = std::get<UpdateCheckOptions>(parsed);
+    catch (std::runtime_error const& error)
+    {
+        PrintLine(stderr, QByteArray("pelnar-update-check: ") + error.what() + "; see --help");
+        return STATUS_BAD_ARGUMENTS;
+    }
     if (options.verbose)
     {
         SpeakUp();

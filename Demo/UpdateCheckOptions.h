@@ -9,7 +9,6 @@
 #include <QUrl>
 
 #include <chrono>
-#include <variant>
 
 namespace Pelnar::Demo
 {
@@ -27,17 +26,8 @@ struct UpdateCheckOptions
     bool outcomeInExitStatus = false;
 };
 
-struct UsageError
-{
-    QString text; ///< one sentence
-};
-
-struct UsageHelp
-{
-    QString text;
-};
-
-/// \a arguments begin with the program's name.
-std::variant<UpdateCheckOptions, UsageError, UsageHelp> ParseUpdateCheckOptions(QStringList const& arguments);
+/// \a arguments begin with the program's name. Throws std::runtime_error whose text says what is wrong with the
+/// arguments, and HelpRequest.
+UpdateCheckOptions ParseUpdateCheckOptions(QStringList const& arguments);
 
 } // namespace Pelnar::Demo

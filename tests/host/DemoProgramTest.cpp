@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
+#include <QTemporaryDir>
 
 namespace Pelnar::Testing
 {
@@ -106,6 +108,18 @@ TEST_F(DemoProgram, BadArgumentsEndWith2)
     EXPECT_NE(result.errors.find("pelnar-demo: --mode: \"loud\" is not one of user|automatic|silent; see --help\n"),
               std::string::npos)
         << result.errors;
+}
+
+TEST_F(DemoProgram, HelpLeavesNoTemporaryFolder)
+{
+    QTemporaryDir const folder;
+    QByteArray const before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    ProgramResult const result = RunProgram(PROGRAM, {QStringLiteral("--help")});
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(QDir(folder.path()).entryList({QStringLiteral("qt_temp*")}).isEmpty());
+    EXPECT_FALSE(result.lines.empty());
 }
 
 TEST_F(DemoProgram, PicturesThatCannotBeWrittenAreAnError)

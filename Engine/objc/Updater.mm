@@ -115,7 +115,6 @@ void Updater::AttachToApplication()
         }
         StartedApplication const started = application.value_or(StartedApplication());
         m_memory = std::make_unique<InstallMemory>(started.stateFolder, started.downloadFolder, started.bundlePath, started.version);
-        m_isDelegateToBeTold = m_memory->IsNews();
         TellFailedInstallationLater();
     }
 }
@@ -124,6 +123,11 @@ void Updater::TakeStart(StartOutcome const& outcome)
 {
     m_isRecovering = false;
     m_failedVersion = outcome.failedVersion;
+    if (!m_failedVersion.isEmpty())
+    {
+        m_memory->TakeRollback(m_failedVersion);
+        TellFailedInstallationLater();
+    }
     if (std::optional<CheckKind> const kind = std::exchange(m_waitingCheck, std::nullopt))
     {
         @autoreleasepool
@@ -135,7 +139,7 @@ void Updater::TakeStart(StartOutcome const& outcome)
 
 void Updater::TellFailedInstallationLater()
 {
-    if (m_isDelegateToBeTold && m_startOwner)
+    if (m_startOwner && m_memory && m_memory->News())
     {
         QMetaObject::invokeMethod(
             m_startOwner.get(), [this] { TellFailedInstallation(); }, Qt::QueuedConnection);
@@ -145,11 +149,11 @@ void Updater::TellFailedInstallationLater()
 void Updater::TellFailedInstallation()
 {
     // A person would mistake a running check for the failed one. Its end calls this function again.
-    if (!m_isDelegateToBeTold || IsInProgress())
+    if (!m_memory->News() || IsInProgress())
     {
         return;
     }
-    InstallRecord const& failure = *m_memory->Failure();
+    InstallRecord const& failure = *m_memory->News();
     EngineError const error = MakeFaultError(failure.fault, failure.errorNumber);
     if (m_memory->IsToBeTold())
     {
@@ -162,7 +166,8 @@ void Updater::TellFailedInstallation()
     }
     if (m_delegate)
     {
-        m_isDelegateToBeTold = false;
+        m_memory->SetHeard();
+        TellFailedInstallationLater();
         (void)CallDelegate("updater:didAbortWithError:", [this, &error] { TellAborted(error); });
     }
 }
@@ -212,7 +217,6 @@ void Updater::Abandon()
     updater->m_flow.reset();
     updater->m_startOwner.reset();
     updater->m_memory.reset();
-    updater->m_isDelegateToBeTold = false;
     updater->m_isRecovering = false;
     updater->m_waitingCheck.reset();
     updater->m_windows.reset();

@@ -102,7 +102,6 @@ private:
     QString m_failedVersion;                 ///< the version that was rolled back to the running one
     std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may report a failed version
     std::unique_ptr<InstallMemory> m_memory;
-    bool m_isDelegateToBeTold = false; ///< about the failed installation
     std::unique_ptr<IUpdateEnvironment> m_parts;
     std::unique_ptr<DiskChores> m_chores; ///< writes what a check stores
     std::unique_ptr<FeedStore> m_feedStore;

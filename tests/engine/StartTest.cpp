@@ -349,7 +349,10 @@ TEST_F(StartToConfirm, RollsBackAVersionThatNeverConfirmsAndOffersItAgainOnlyToA
     }
     RunInBackground();
     ExpectWhole("1.0");
-    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
+    EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}),
+              "asked;not found;aborted 1001;aborted 4005;")
+        << "the check, then the rollback";
+    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;") << "it is told once";
     EXPECT_EQ(Run({QStringLiteral("interactive")}).rfind("asked;found 2.0;", 0), 0u);
     EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;") << "at every start";
     ExpectWhole("1.0");

@@ -64,7 +64,7 @@ protected:
     {
         InstallMemory const memory(m_records, m_downloads, m_bundle, QString::fromLatin1(version));
         m_isToBeTold = memory.IsToBeTold();
-        m_isNews = memory.IsNews();
+        m_isNews = memory.News() != nullptr;
         return memory.Failure();
     }
 
@@ -297,6 +297,41 @@ TEST_F(InstallMemoryTest, FailureIsToldThroughALinkToo)
     ASSERT_TRUE(QFile::link(m_bundle, link));
     InstallMemory const memory(m_records, m_downloads, link, QStringLiteral("1.0"));
     EXPECT_TRUE(memory.IsToBeTold());
+}
+
+/// The note beside the bundle stays, so every start learns of the rollback.
+TEST_F(InstallMemoryTest, RollbackIsNewsOnceAndAgainAfterTheNextInstallation)
+{
+    LogCapture log;
+    auto const isNews = [this](char const* failedVersion)
+    {
+        InstallMemory memory(m_records, m_downloads, m_bundle, QStringLiteral("1.0"));
+        memory.TakeRollback(QString::fromLatin1(failedVersion));
+        EXPECT_FALSE(memory.IsToBeTold());
+        return memory.News() && memory.News()->fault == UpdateFault::NewVersionFailed;
+    };
+    EXPECT_TRUE(isNews("2.0"));
+    EXPECT_FALSE(isNews("2.0"));
+    EXPECT_EQ(log.Texts(),
+              std::vector<std::string>{"Update 2.0 was rolled back; only a person's check offers it again"});
+    EXPECT_TRUE(isNews("2.1"));
+    Attempt(InstallWish::Person, InstallState::Installed);
+    EXPECT_FALSE(Start("2.0"));
+    EXPECT_TRUE(isNews("2.1"));
+}
+
+TEST_F(InstallMemoryTest, TwoNewsAreHeardOneAfterTheOther)
+{
+    Attempt(InstallWish::Automatic, InstallState::Failed);
+    InstallMemory memory(m_records, m_downloads, m_bundle, QStringLiteral("1.0"));
+    memory.TakeRollback(QStringLiteral("1.9"));
+    for (UpdateFault const fault : {UpdateFault::SwapFailed, UpdateFault::NewVersionFailed})
+    {
+        ASSERT_TRUE(memory.News());
+        EXPECT_EQ(memory.News()->fault, fault);
+        memory.SetHeard();
+    }
+    EXPECT_FALSE(memory.News());
 }
 
 TEST_F(InstallMemoryTest, EveryBundleHasARecordOfItsOwn)

@@ -106,7 +106,7 @@ TEST_P(KilledHelper, IsNewsForTheNextStartOnce)
         LogCapture log;
         {
             InstallMemory memory = installation.Start(version);
-            EXPECT_EQ(memory.IsNews(), isFailed);
+            EXPECT_EQ(memory.News() != nullptr, isFailed);
             EXPECT_EQ(memory.IsToBeTold(), isFailed && GetParam() == InstallWish::Person);
             memory.SetTold();
         }
@@ -114,7 +114,7 @@ TEST_P(KilledHelper, IsNewsForTheNextStartOnce)
         EXPECT_LE(lines, 1u);
         EXPECT_TRUE(lines == 1 || !isFailed);
         InstallMemory const again = installation.Start(version);
-        EXPECT_FALSE(again.IsNews() || again.IsToBeTold());
+        EXPECT_FALSE(again.News() || again.IsToBeTold());
         EXPECT_EQ(log.Texts().size(), lines);
     }
     EXPECT_GT(failed, 0);

@@ -32,6 +32,20 @@ std::string RealPath(QString const& bundlePath)
     return path ? path.get() : std::string();
 }
 
+/// Empty if there is none, or if it cannot be read.
+std::string ReadNoteIn(QString const& folder, std::string const& name)
+{
+    try
+    {
+        UniqueFd const opened = OpenRecordFolder(folder);
+        return opened ? ReadNote(opened.Get(), name) : std::string();
+    }
+    catch (UpdateRefusal const&)
+    {
+        return {};
+    }
+}
+
 void SetInterrupted(InstallRecord& record)
 {
     record.state = InstallState::Failed;
@@ -55,14 +69,14 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
                              QString const& version)
     : m_folder(folder), m_downloads(downloads)
 {
-    UniqueFd const opened = OpenRecordFolder(folder);
-    if (!opened)
+    std::string const path = RealPath(bundlePath);
+    if (path.empty())
     {
         return;
     }
-    std::string const path = RealPath(bundlePath);
     m_name = InstallRecordName(path);
-    auto record = path.empty() ? std::nullopt : ReadInstallRecord(opened.Get(), m_name);
+    UniqueFd const opened = OpenRecordFolder(folder);
+    auto record = opened ? ReadInstallRecord(opened.Get(), m_name) : std::nullopt;
     if (!record)
     {
         return;
@@ -110,6 +124,40 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
     }
 }
 
+InstallRecord const* InstallMemory::News() const
+{
+    return m_isNews ? &*m_failure : m_rollback ? &*m_rollback : nullptr;
+}
+
+void InstallMemory::SetHeard()
+{
+    if (!std::exchange(m_isNews, false))
+    {
+        m_rollback.reset();
+    }
+}
+
+std::string InstallMemory::RollbackName() const
+{
+    return m_name + ".rollback";
+}
+
+void InstallMemory::TakeRollback(QString const& failedVersion)
+{
+    std::string const version = failedVersion.toStdString();
+    bool const isTold =
+        m_failure && m_failure->toVersion == version && m_failure->fault == UpdateFault::NewVersionFailed;
+    if (m_name.empty() || isTold || ReadNoteIn(m_folder, RollbackName()) == version)
+    {
+        return;
+    }
+    LOG(WARNING) << "Update " << Shown(version) << " was rolled back; only a person's check offers it again";
+    Keep(RollbackName(), version);
+    m_rollback.emplace();
+    m_rollback->toVersion = version;
+    m_rollback->fault = UpdateFault::NewVersionFailed;
+}
+
 bool InstallMemory::IsToBeTold() const
 {
     return m_failure && m_failure->wish == InstallWish::Person && m_failure->told == FailureTold::No;
@@ -122,17 +170,19 @@ void InstallMemory::SetTold()
         return;
     }
     m_failure->told = FailureTold::Yes;
-    m_failure->attempts > 0 ? Keep(*m_failure) : Forget();
+    m_failure->attempts > 0 ? Keep(m_name, EncodeInstallRecord(*m_failure)) : Forget();
 }
 
 void InstallMemory::Forget()
 {
     m_chores.Run(
-        [folder = m_folder, name = m_name]
+        [folder = m_folder, name = m_name, rollback = RollbackName()]
         {
             try
             {
-                RemoveNote(OpenRecordFolder(folder).Get(), name);
+                UniqueFd const opened = OpenRecordFolder(folder);
+                RemoveNote(opened.Get(), name);
+                RemoveNote(opened.Get(), rollback);
             }
             catch (UpdateRefusal const& refusal)
             {
@@ -141,14 +191,14 @@ void InstallMemory::Forget()
         });
 }
 
-void InstallMemory::Keep(InstallRecord const& record)
+void InstallMemory::Keep(std::string const& name, std::string const& bytes)
 {
     m_chores.Run(
-        [folder = m_folder, name = m_name, bytes = EncodeInstallRecord(record)]
+        [folder = m_folder, name, bytes]
         {
             try
             {
-                WriteNote(OpenRecordFolder(folder).Get(), name, bytes);
+                WriteNote(OpenPrivateFolder(PathBytes(folder)).Get(), name, bytes);
             }
             catch (UpdateRefusal const& refusal)
             {

@@ -31,22 +31,28 @@ public:
     /// The failure of the last installation that left this version in place; empty otherwise. It has no attempts if
     /// this one was no attempt.
     std::optional<InstallRecord> const& Failure() const { return m_failure; }
-    /// The application has not heard of that failure.
-    [[nodiscard]] bool IsNews() const { return m_isNews; }
+    /// The failure, or the rollback, of which the application has not heard; null if there is none.
+    InstallRecord const* News() const;
+    /// The application has heard of the News().
+    void SetHeard();
     /// A person requested that installation and has not seen its result.
     [[nodiscard]] bool IsToBeTold() const;
     void SetTold();
+    /// The update to \a failedVersion was rolled back: this is news unless an earlier start has told it.
+    void TakeRollback(QString const& failedVersion);
 
 private:
     void Settle(InstallRecord record, PastInstallation meaning);
+    std::string RollbackName() const;
     void Forget();
-    void Keep(InstallRecord const& record);
+    void Keep(std::string const& name, std::string const& bytes);
 
     QString m_folder;
     QString m_downloads;
     std::string m_name;
     std::optional<InstallRecord> m_failure;
-    bool m_isNews = false;
+    bool m_isNews = false;                   ///< the failure is
+    std::optional<InstallRecord> m_rollback; ///< if it is news
     DiskChores m_chores;
 };
 

@@ -9,12 +9,14 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace
@@ -163,6 +165,45 @@ TEST(SharedFolder, OfTheUsersOwnGroupIsNobodyElses)
             });
         EXPECT_EQ(answer, isAlone ? "None 2.0" : "FolderUnsafe ");
         EXPECT_EQ(victim.scene.Place().StartedVersion(), isAlone ? "2.0" : "1.0");
+    }
+}
+
+/// The helper of this user's update was killed before or after the swap.
+TEST(SecondUser, WhoStartsTheApplicationChangesNothing)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    for (bool const isSwapped : {false, true})
+    {
+        SCOPED_TRACE(isSwapped);
+        VictimScene victim;
+        InstallJob const job = victim.Prepare();
+        victim.scene.Host().End();
+        HelperStart killed = victim.asVictim;
+        bool isDue = false;
+        killed.atEveryCall = [&](CallStop const& stop)
+        {
+            bool const isExchange = stop.call == SYS_renameat2;
+            bool const isNow = isSwapped ? isDue : isExchange;
+            isDue = isDue || isExchange;
+            return isNow ? CallVerdict::KillAll() : CallVerdict::GoOn();
+        };
+        EXPECT_EQ(victim.scene.Install(job, killed).signal, SIGKILL);
+        victim.scene.ReleaseStaging();
+        std::vector<std::string> const names = victim.scene.Place().Names();
+        std::string const version = isSwapped ? "2.0" : "1.0";
+        EXPECT_GT(names.size(), 1u);
+        HelperStart second;
+        second.before = WordsAs(ATTACKER);
+        for (RecoverPurpose const purpose : {RecoverPurpose::Start, RecoverPurpose::Confirmation})
+        {
+            HelperOutcome const outcome = victim.scene.Recover(RecoverJob{APP, version, purpose}, second);
+            EXPECT_EQ(outcome.exitStatus, 1);
+            EXPECT_EQ(outcome.Fault(), UpdateFault::FolderUnsafe) << FaultName(outcome.Fault());
+            EXPECT_EQ(victim.scene.Place().Names(), names);
+            EXPECT_EQ(victim.scene.Place().StartedVersion(), version);
+        }
+        EXPECT_EQ(victim.scene.Recover(version, victim.asVictim).exitStatus, 0);
+        EXPECT_EQ(victim.scene.Place().StartedVersion(), version);
     }
 }
 

@@ -1,6 +1,11 @@
 // ApplicationFolderTest.cpp: which folders are an application's own, and which are refused.
 #include "Settings/ApplicationFolder.h"
+
+#include "Engine/core/helper/NoteFile.h"
 #include "tests/settings/SettingsFixture.h"
+
+#include <QDir>
+#include <QTemporaryDir>
 
 #include <functional>
 #include <set>
@@ -138,6 +143,38 @@ TEST_F(ApplicationFolderPlace, WhatBelongsToAnotherUserIsRefused)
     ASSERT_EQ(::chown(Path(".config").toLocal8Bit().constData(), SOMEBODY, SOMEBODY), 0);
     EXPECT_NE(Open(MissingFolder::Make).reason.find("belongs to another user"), std::string::npos);
     EXPECT_FALSE(QFileInfo::exists(Path(".config/org.example.app"))) << "nothing of root's is left in a person's home";
+}
+
+TEST_F(ApplicationFolderPlace, AdministratorMakesNoFolderInThoseOfAPerson)
+{
+    if (::geteuid() != 0)
+    {
+        GTEST_SKIP() << "only root can give a folder away";
+    }
+    QTemporaryDir const folder;
+    std::string const path = folder.path().toStdString();
+    ASSERT_EQ(::chown(path.c_str(), 12345, 12345), 0);
+    Pelnar::Engine::MakeFoldersAbove(path + "/.cache/app");
+    EXPECT_FALSE(Pelnar::Engine::OpenPrivateFolder(path + "/.local/state/app/updates"));
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(ApplicationFolderPlace, AdministratorFollowsNoLinkOfAPerson)
+{
+    if (::geteuid() != 0)
+    {
+        GTEST_SKIP() << "only root can give a link away";
+    }
+    QTemporaryDir const place;
+    QTemporaryDir const other;
+    std::string const link = place.path().toStdString() + "/app";
+    ASSERT_EQ(::symlink(other.path().toLocal8Bit().constData(), link.c_str()), 0);
+    EXPECT_TRUE(Pelnar::Engine::OpenPrivateFolder(link + "/own")) << "a link of the administrator";
+    ASSERT_EQ(::lchown(link.c_str(), 12345, 12345), 0);
+    EXPECT_FALSE(Pelnar::Engine::OpenPrivateFolder(link + "/updates"));
+    Pelnar::Engine::MakeFoldersAbove(link + "/above/file");
+    EXPECT_EQ(QDir(other.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("own")});
 }
 
 } // namespace

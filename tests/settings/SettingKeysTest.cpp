@@ -19,10 +19,10 @@ using namespace Pelnar;
 namespace fs = std::filesystem;
 
 /// Names in quotes that look like the name of a setting.
-std::set<std::string> const OTHER_NAMES = {"SUSparkleErrorDomain",        "PelnarUpdateCheckErrorDomain",
-                                           "PelnarHTTPStatusErrorDomain", "PelnarEnglishDescription",
-                                           "PelnarUpdateEngine",          "PelnarDemoWindow",
-                                           "PelnarIsolationProbe",        "PelnarUpdateChecker"};
+std::set<std::string> const OTHER_NAMES = {
+    "SUSparkleErrorDomain",     "PelnarUpdateCheckErrorDomain", "PelnarHTTPStatusErrorDomain",
+    "PelnarEnglishDescription", "PelnarUpdateEngine",           "PelnarDemoWindow",
+    "PelnarIsolationProbe",     "PelnarUpdateChecker",          "SUBCOMMAND"};
 
 std::string TextOf(fs::path const& path)
 {

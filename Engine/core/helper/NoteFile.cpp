@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -42,6 +43,92 @@ void OpenToOwner(int parentFd, std::string const& name)
     }
 }
 
+/// True for an object of this user or of the administrator.
+bool IsOwnOrAdministrators(struct stat const& status)
+{
+    return status.st_uid == ::geteuid() || status.st_uid == 0;
+}
+
+/// Another user could neither use nor remove what the administrator makes in their folders.
+bool MakeFolderIn(int parentFd, std::string const& name)
+{
+    struct stat status;
+    if (::fstat(parentFd, &status) == 0 && !IsOwnOrAdministrators(status))
+    {
+        errno = EPERM;
+        return false;
+    }
+    return MakePrivateFolder(parentFd, name);
+}
+
+/// A folder as a place for other calls.
+UniqueFd OpenPlace(int parentFd, std::string const& name, int flags)
+{
+    int folder = -1;
+    do
+    {
+        folder = ::openat(parentFd, name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC | flags);
+    } while (folder < 0 && errno == EINTR);
+    return UniqueFd(folder);
+}
+
+/// A link of another user is not followed: it could lead what the administrator writes anywhere.
+UniqueFd StepInto(int folderFd, std::string const& name)
+{
+    struct stat status;
+    if (::fstatat(folderFd, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    {
+        return UniqueFd();
+    }
+    bool const isLink = S_ISLNK(status.st_mode);
+    if (isLink && !IsOwnOrAdministrators(status))
+    {
+        errno = ELOOP;
+        return UniqueFd();
+    }
+    return OpenPlace(folderFd, name, isLink ? 0 : O_NOFOLLOW);
+}
+
+/// The folder that contains \a path. It is created if it is missing, and those above it.
+UniqueFd OpenFolderAbove(std::string const& path)
+{
+    std::size_t const last = path.rfind('/');
+    UniqueFd folder = OpenPlace(AT_FDCWD, !path.empty() && path.front() == '/' ? "/" : ".", 0);
+    for (std::size_t begin = 0; folder && last != std::string::npos && begin < last;)
+    {
+        std::size_t const end = path.find('/', begin);
+        std::string const name = path.substr(begin, end - begin);
+        begin = end + 1;
+        if (name.empty())
+        {
+            continue;
+        }
+        UniqueFd next = StepInto(folder.Get(), name);
+        if (!next && errno == ENOENT && (MakeFolderIn(folder.Get(), name) || errno == EEXIST))
+        {
+            next = StepInto(folder.Get(), name);
+        }
+        folder = std::move(next);
+    }
+    return folder;
+}
+
+/// \a folder, unless another user can write there.
+UniqueFd OwnFolder(UniqueFd folder)
+{
+    struct stat status;
+    if (!folder || ::fstat(folder.Get(), &status) != 0)
+    {
+        return UniqueFd();
+    }
+    if (status.st_uid != ::geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
+    {
+        errno = EPERM;
+        return UniqueFd();
+    }
+    return folder;
+}
+
 } // namespace
 
 bool MakePrivateFolder(int parentFd, std::string const& name)
@@ -66,36 +153,24 @@ void LetOwnerWrite(int fd)
 
 void MakeFoldersAbove(std::string const& path)
 {
-    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
-    {
-        static_cast<void>(MakePrivateFolder(AT_FDCWD, path.substr(0, end)));
-    }
+    static_cast<void>(OpenFolderAbove(path));
 }
 
 UniqueFd OpenPrivateFolder(std::string const& path)
 {
-    if (!MakePrivateFolder(AT_FDCWD, path) && errno == ENOENT)
+    UniqueFd const above = OpenFolderAbove(path);
+    if (!above)
     {
-        MakeFoldersAbove(path);
-        static_cast<void>(MakePrivateFolder(AT_FDCWD, path)); // a failure appears below
+        return UniqueFd();
     }
-    return OpenOwnFolder(path);
+    std::string const name = path.substr(path.rfind('/') + 1);
+    static_cast<void>(MakeFolderIn(above.Get(), name)); // it may exist; a failure appears below
+    return OwnFolder(OpenFolder(above.Get(), name));
 }
 
 UniqueFd OpenOwnFolder(std::string const& path)
 {
-    UniqueFd folder = OpenFolder(AT_FDCWD, path);
-    struct stat status;
-    if (!folder || ::fstat(folder.Get(), &status) != 0)
-    {
-        return UniqueFd();
-    }
-    if (status.st_uid != ::geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
-    {
-        errno = EPERM;
-        return UniqueFd();
-    }
-    return folder;
+    return OwnFolder(OpenFolder(AT_FDCWD, path));
 }
 
 bool IsPrivateFile(int fd)

@@ -17,13 +17,14 @@ namespace Pelnar::Engine
 /// Lets this user read and write a file that was just created, no matter what the umask is.
 void LetOwnerWrite(int fd);
 
-/// Creates the missing folders above \a path, for this user alone. Failures appear when the folders are used.
+/// Creates the missing folders above \a path, for this user alone. Failures appear when the folders are used. None is
+/// made in a folder of another user, except the administrator, and no link of another user is followed.
 void MakeFoldersAbove(std::string const& path);
 
 /// Opens the folder \a path. The descriptor is empty, and errno is set, if others can write there or the folder belongs
 /// to another user (EPERM), and if the path is not a folder (ENOTDIR, ELOOP).
 UniqueFd OpenOwnFolder(std::string const& path);
-/// The same. A missing folder is created, and those above it.
+/// The same. A missing folder is created, and those above it, as MakeFoldersAbove() does.
 UniqueFd OpenPrivateFolder(std::string const& path);
 
 /// True for a regular file of this user that no other user may open.

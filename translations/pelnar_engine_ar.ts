@@ -710,6 +710,10 @@
         <translation>يعمل التطبيق داخل حاوية تُخفي مالك المجلد «%1». شغّله خارج الحاوية لتحديثه.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>حصتك على القرص لا تكفي للتحديث. احذف بعض ملفاتك ثم أعد المحاولة.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>يمكن للمستخدم &quot;%1&quot; تغيير مجلد التطبيق. استخدم الأمر &quot;%2&quot;.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>Die Anwendung läuft in einem Container, der den Besitzer des Ordners „%1“ verbirgt. Starten Sie die Anwendung außerhalb des Containers, um sie zu aktualisieren.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Ihr Kontingent auf dem Datenträger reicht für das Update nicht aus. Entfernen Sie eigene Dateien, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>Der Benutzer „%1“ darf den Ordner der Anwendung ändern. Verwenden Sie den Befehl „%2“.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>La aplicación se ejecuta en un contenedor que oculta el propietario de la carpeta «%1». Iníciela fuera del contenedor para actualizarla.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Su cuota de disco no alcanza para la actualización. Elimine algunos de sus archivos e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>El usuario «%1» puede modificar la carpeta de la aplicación. Use la orden «%2».</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>L’application s’exécute dans un conteneur qui masque le propriétaire du dossier « %1 » . Démarrez-la en dehors du conteneur pour la mettre à jour.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Votre quota sur le disque ne suffit pas pour la mise à jour. Supprimez quelques-uns de vos fichiers et réessayez.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>L’utilisateur «&#xa0;%1&#xa0;» peut modifier le dossier de l’application. Utilisez la commande «&#xa0;%2&#xa0;».</translation>
     </message>

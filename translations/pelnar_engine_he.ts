@@ -710,6 +710,10 @@
         <translation>היישום פועל במכולה שמסתירה את הבעלים של התיקייה ”%1”. כדי לעדכן אותו, יש להפעיל אותו מחוץ למכולה.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>מכסת הכונן שלך אינה מספיקה לעדכון. יש להסיר קבצים שלך ולנסות שוב.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>המשתמש &quot;%1&quot; רשאי לשנות את תיקיית היישום. השתמשו בפקודה &quot;%2&quot;.</translation>
     </message>

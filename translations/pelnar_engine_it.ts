@@ -710,6 +710,10 @@
         <translation>L’applicazione è in esecuzione in un contenitore che nasconde il proprietario della cartella «%1». Avviarla fuori dal contenitore per aggiornarla.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>La quota sul disco non basta per l’aggiornamento. Rimuovere alcuni dei propri file e riprovare.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>L’utente “%1” può modificare la cartella dell’applicazione. Usa il comando “%2”.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>アプリケーションは、フォルダー「%1」の所有者を隠すコンテナーの中で動作しています。更新するには、コンテナーの外で起動してください。</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>アップデートに必要なディスクの割り当てが足りません。自分のファイルを削除して、もう一度お試しください。</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>ユーザー「%1」はアプリケーションのフォルダを変更できます。コマンド「%2」を使用してください。</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>De toepassing draait in een container die de eigenaar van de map ‘%1’ verbergt. Start de toepassing buiten de container om deze bij te werken.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Uw schijfquotum is te klein voor de update. Verwijder eigen bestanden en probeer het opnieuw.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>De gebruiker ‘%1’ mag de map van het programma wijzigen. Gebruik de opdracht ‘%2’.</translation>
     </message>

@@ -710,6 +710,10 @@
         <translation>Aplikacja działa w kontenerze, który ukrywa właściciela folderu „%1”. Uruchom ją poza kontenerem, aby ją zaktualizować.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Twój limit na dysku nie wystarcza na aktualizację. Usuń część swoich plików i spróbuj ponownie.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>Użytkownik „%1” może zmieniać folder aplikacji. Użyj polecenia „%2”.</translation>
     </message>

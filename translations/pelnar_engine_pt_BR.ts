@@ -710,6 +710,10 @@
         <translation>O aplicativo está em execução em um contêiner que oculta o proprietário da pasta “%1”. Inicie-o fora do contêiner para atualizá-lo.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Sua cota no disco não é suficiente para a atualização. Remova alguns dos seus arquivos e tente novamente.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>O usuário “%1” pode alterar a pasta do aplicativo. Use o comando “%2”.</translation>
     </message>

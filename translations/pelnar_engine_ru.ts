@@ -710,6 +710,10 @@
         <translation>Приложение работает в контейнере, который скрывает владельца папки «%1». Чтобы обновить приложение, запустите его вне контейнера.</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>Вашей квоты на диске не хватает для обновления. Удалите часть своих файлов и повторите попытку.</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>Пользователь «%1» может изменять папку приложения. Используйте команду «%2».</translation>
     </message>

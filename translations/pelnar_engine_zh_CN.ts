@@ -710,6 +710,10 @@
         <translation>应用程序运行在一个隐藏文件夹“%1”所有者的容器中。请在容器外启动应用程序以进行更新。</translation>
     </message>
     <message>
+        <source>Your disk quota is too small for the update. Remove some of your files and try again.</source>
+        <translation>您的磁盘配额不足以进行更新。请删除您的一些文件，然后重试。</translation>
+    </message>
+    <message>
         <source>The user &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
         <translation>用户“%1”可以更改应用程序的文件夹。请使用命令“%2”。</translation>
     </message>

@@ -212,6 +212,14 @@ TEST(UpdateError, SystemErrorStandsInTheDetailOnly)
     EXPECT_FALSE(error.sentence.English().contains(QLatin1String("errno")));
 }
 
+TEST(UpdateError, QuotaIsNotCalledAFullDisk)
+{
+    EXPECT_EQ(MakeFaultError(UpdateFault::NoSpace, EDQUOT).sentence.English(),
+              QStringLiteral("Your disk quota is too small for the update. Remove some of your files and try again."));
+    EXPECT_EQ(MakeFaultError(UpdateFault::NoSpace, ENOSPC).sentence.English(),
+              QStringLiteral("There is not enough space on the disk for the update. Free some space and try again."));
+}
+
 TEST(UpdateError, ArchiveIsNotBlamedForThisComputer)
 {
     for (UpdateFault const fault : {UpdateFault::NoSpace, UpdateFault::DiskError, UpdateFault::NotPermitted,

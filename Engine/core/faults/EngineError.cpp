@@ -2,6 +2,8 @@
 
 #include "Engine/core/base/SafeText.h"
 
+#include <cerrno>
+
 namespace Pelnar::Engine
 {
 
@@ -77,7 +79,12 @@ EngineError MakeFaultError(UpdateFault fault, int errorNumber)
     error.code = entry.code;
     error.cause = ErrorCause::Fault;
     error.fault = fault;
-    error.sentence = Sentence(entry.sentence);
+    // The disk itself may have much free space.
+    bool const isQuota = fault == UpdateFault::NoSpace && errorNumber == EDQUOT;
+    error.sentence = Sentence(isQuota ? QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                                          "Your disk quota is too small for the update. Remove some of "
+                                                          "your files and try again.")
+                                      : entry.sentence);
     error.detail = QString::fromLatin1(entry.name);
     if (errorNumber != 0)
     {

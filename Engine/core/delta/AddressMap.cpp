@@ -8,6 +8,7 @@ namespace Pelnar::Engine
 AddressMap::AddressMap(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
                        std::vector<PatchStep> const& steps)
     : m_lowest(oldLayout.lowest)
+    , m_pageBits(oldLayout.end - oldLayout.lowest < LARGE_IMAGE_BYTES ? SMALL_PAGE_BITS : LARGE_PAGE_BITS)
 {
     TakeRuns(RunsOf(oldLayout, newSpans, steps));
     MakeIndex();
@@ -114,12 +115,12 @@ void AddressMap::TakeRuns(std::vector<Run> const& runs)
 
 void AddressMap::MakeIndex()
 {
-    std::size_t const pages = (m_points.back().begin >> PAGE_BITS) + 2;
+    std::size_t const pages = (m_points.back().begin >> m_pageBits) + 2;
     m_pages.resize(pages);
     std::size_t point = 0;
     for (std::size_t page = 0; page < pages; ++page)
     {
-        while (point < m_points.size() && m_points[point].begin <= page << PAGE_BITS)
+        while (point < m_points.size() && m_points[point].begin <= page << m_pageBits)
         {
             ++point;
         }

@@ -29,7 +29,7 @@ public:
     /// the old image gives any answer.
     bool MovesWithPage(std::uint64_t address, std::uint32_t shift) const
     {
-        std::size_t const page = static_cast<std::uint32_t>(address - m_lowest) >> PAGE_BITS;
+        std::size_t const page = static_cast<std::uint32_t>(address - m_lowest) >> m_pageBits;
         return m_pageShifts[std::min(page, m_pageShifts.size() - 1)] == shift;
     }
     struct Range
@@ -66,7 +66,10 @@ private:
         std::uint32_t shift; ///< from here on
     };
 
-    static constexpr unsigned PAGE_BITS = 12;
+    // Small pages are more often of one shift, but those of a large program take more memory.
+    static constexpr unsigned SMALL_PAGE_BITS = 9;
+    static constexpr unsigned LARGE_PAGE_BITS = 12;
+    static constexpr std::uint64_t LARGE_IMAGE_BYTES = std::uint64_t(16) << 20;
     struct Page
     {
         std::uint32_t firstPoint; ///< after its begin
@@ -79,6 +82,7 @@ private:
     void MakeIndex();
 
     std::uint64_t m_lowest;
+    unsigned m_pageBits;
     std::vector<Point> m_points;             ///< in ascending order; the first is at 0
     std::vector<Page> m_pages;               ///< up to the page of the last point, and one more
     std::vector<std::uint32_t> m_pageShifts; ///< of m_pages
@@ -87,7 +91,7 @@ private:
 inline std::uint64_t AddressMap::Find(std::uint64_t address) const
 {
     auto const wanted = static_cast<std::uint32_t>(address - m_lowest);
-    std::size_t const page = std::min<std::size_t>(wanted >> PAGE_BITS, m_pages.size() - 1);
+    std::size_t const page = std::min<std::size_t>(wanted >> m_pageBits, m_pages.size() - 1);
     std::size_t const begin = m_pages[page].firstPoint;
     std::size_t const end = page + 1 < m_pages.size() ? m_pages[page + 1].firstPoint : m_points.size();
     std::uint32_t shift = m_pages[page].shift;

@@ -6,6 +6,29 @@
 namespace Pelnar::Engine
 {
 
+namespace
+{
+
+/// Copies \a count bytes of \a room that may be read and written: most runs are short.
+void CopyShort(std::uint8_t const* bytes, std::size_t count, std::size_t room, std::uint8_t* target)
+{
+    constexpr std::size_t SHORT_BYTES = 16;
+    count <= SHORT_BYTES&& room >= SHORT_BYTES ? std::copy_n(bytes, SHORT_BYTES, target)
+                                               : std::copy_n(bytes, count, target);
+}
+
+/// The compiler's loop for many bytes would take longer to start than most runs take.
+void AddBytes(std::uint8_t const* a, std::uint8_t const* b, std::size_t count, std::uint8_t* target)
+{
+#pragma clang loop vectorize(disable)
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        target[i] = static_cast<std::uint8_t>(a[i] + b[i]);
+    }
+}
+
+} // namespace
+
 bool PatchStreamReader::Take(std::uint8_t* target, std::size_t size)
 {
     while (size > 0)
@@ -23,7 +46,7 @@ bool PatchStreamReader::Take(std::uint8_t* target, std::size_t size)
     return true;
 }
 
-PatchVerdict PatchStreamReader::TakeNumber(std::uint64_t& number)
+PatchVerdict PatchStreamReader::TakeLongNumber(std::uint64_t& number)
 {
     number = 0;
     for (int shift = 0;; shift += 7)
@@ -264,16 +287,20 @@ PatchVerdict PatchApplier::TakeLike(Bytes old, bool isLasting)
         std::uint8_t* const target = m_pieces[m_current].data() + m_filled;
         if (&left == &m_sameLeft)
         {
-            std::copy_n(old.data(), count, target);
+            std::size_t const room = std::min(old.size(), PATCH_PIECE_BYTES - m_filled);
+            CopyShort(old.data(), count, room, target);
         }
-        else if (!m_difference.Take(target, count))
+        else if (std::uint8_t const* const difference = m_difference.TakeAhead(count))
         {
-            return PatchVerdict::SourceEnded;
+            AddBytes(old.data(), difference, count, target);
+        }
+        else if (m_difference.Take(target, count))
+        {
+            AddBytes(old.data(), target, count, target);
         }
         else
         {
-            std::transform(target, target + count, old.data(), target,
-                           [](std::uint8_t a, std::uint8_t b) { return static_cast<std::uint8_t>(a + b); });
+            return PatchVerdict::SourceEnded;
         }
         left -= count;
         old.remove_prefix(count);

@@ -19,10 +19,26 @@ public:
     explicit PatchStreamReader(ByteSource const& source) : m_source(source) {}
 
     [[nodiscard]] bool Take(std::uint8_t* target, std::size_t size);
-    PatchVerdict TakeNumber(std::uint64_t& number);
+    PatchVerdict TakeNumber(std::uint64_t& number)
+    {
+        if (m_position == m_end || m_ahead[m_position] >= 0x80)
+        {
+            return TakeLongNumber(number);
+        }
+        number = m_ahead[m_position++];
+        return PatchVerdict::Applied;
+    }
+    /// The next bytes, valid until the next call; null, and nothing is taken, if they are not read ahead.
+    std::uint8_t const* TakeAhead(std::size_t size)
+    {
+        bool const isAhead = size <= m_end - m_position;
+        m_position += isAhead ? size : 0;
+        return isAhead ? m_ahead.data() + m_position - size : nullptr;
+    }
     bool IsAtEnd() { return m_position == m_end && !Refill(); }
 
 private:
+    PatchVerdict TakeLongNumber(std::uint64_t& number);
     bool Refill();
 
     ByteSource const& m_source;

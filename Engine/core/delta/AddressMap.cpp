@@ -12,6 +12,7 @@ AddressMap::AddressMap(ImageLayout const& oldLayout, std::vector<ImageSpan> cons
 {
     TakeRuns(RunsOf(oldLayout, newSpans, steps));
     MakeIndex();
+    FindUsualShift(oldLayout.end - oldLayout.lowest);
 }
 
 std::vector<AddressMap::Run> AddressMap::RunsOf(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
@@ -111,6 +112,28 @@ void AddressMap::TakeRuns(std::vector<Run> const& runs)
             active.pop();
         }
     }
+}
+
+/// If more than half of the pages have one shift, it is left when each page of it is cancelled by a page of another.
+void AddressMap::FindUsualShift(std::uint64_t imageBytes)
+{
+    std::uint64_t const all = std::max<std::uint64_t>(imageBytes >> m_pageBits, m_pageShifts.size());
+    std::uint64_t const last = all - m_pageShifts.size() + 1; // the last one stands for all later pages
+    auto const pagesOf = [this, last](std::size_t page) { return page + 1 == m_pageShifts.size() ? last : 1; };
+    std::uint64_t left = 0;
+    for (std::size_t page = 0; page < m_pageShifts.size(); ++page)
+    {
+        std::uint64_t const pages = pagesOf(page);
+        bool const isOther = m_pageShifts[page] != m_usualShift;
+        m_usualShift = isOther && pages > left ? m_pageShifts[page] : m_usualShift;
+        left = !isOther ? left + pages : pages > left ? pages - left : left - pages;
+    }
+    std::uint64_t usual = 0;
+    for (std::size_t page = 0; page < m_pageShifts.size(); ++page)
+    {
+        usual += m_pageShifts[page] == m_usualShift ? pagesOf(page) : 0;
+    }
+    m_usualShift = usual * 2 > all ? m_usualShift : MIXED_SHIFT;
 }
 
 void AddressMap::MakeIndex()

@@ -32,6 +32,8 @@ public:
         std::size_t const page = static_cast<std::uint32_t>(address - m_lowest) >> m_pageBits;
         return m_pageShifts[std::min(page, m_pageShifts.size() - 1)] == shift;
     }
+    /// True if more than half of all pages move by \a shift.
+    bool IsUsual(std::uint32_t shift) const { return shift == m_usualShift && shift != MIXED_SHIFT; }
     struct Range
     {
         std::uint64_t begin;
@@ -80,12 +82,14 @@ private:
                             std::vector<PatchStep> const& steps) const;
     void TakeRuns(std::vector<Run> const& runs);
     void MakeIndex();
+    void FindUsualShift(std::uint64_t imageBytes);
 
     std::uint64_t m_lowest;
     unsigned m_pageBits;
     std::vector<Point> m_points;             ///< in ascending order; the first is at 0
     std::vector<Page> m_pages;               ///< up to the page of the last point, and one more
     std::vector<std::uint32_t> m_pageShifts; ///< of m_pages
+    std::uint32_t m_usualShift = MIXED_SHIFT;
 };
 
 inline std::uint64_t AddressMap::Find(std::uint64_t address) const

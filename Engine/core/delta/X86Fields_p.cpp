@@ -63,7 +63,8 @@ bool HasDistance(std::uint8_t const* bytes, DistanceRange range)
 
 } // namespace
 
-/// Finds by how much the addresses of the current code move. False if it is unknown or not the same for all.
+/// Finds by how much the addresses of the current code move. False if it is unknown, not the same for all, or if most
+/// targets move otherwise.
 bool FieldScanner::FindCodeShift()
 {
     if (!m_move)
@@ -81,10 +82,13 @@ bool FieldScanner::FindCodeShift()
     }
     m_codeShift = static_cast<std::uint32_t>(span->address + (begin - span->offset) - Address(m_position));
     AddressMap::Range const others = m_move->map->MovingOtherwise(m_codeShift);
-    m_othersBegin = others.begin;
+    std::uint64_t const othersSize = others.end - others.begin;
     // In a large range there are fields in nearly all blocks.
-    m_othersSize = others.end - others.begin < m_image.size / 16 ? others.end - others.begin : 0;
-    return m_codeShift != AddressMap::MIXED_SHIFT;
+    bool const isSmall = othersSize < m_image.size / 16;
+    m_othersBegin = others.begin;
+    m_othersSize = isSmall ? othersSize : 0;
+    // If most fields change, it takes longer to look which ones.
+    return m_codeShift != AddressMap::MIXED_SHIFT && (isSmall || m_move->map->IsUsual(m_codeShift));
 }
 
 /// Looks at the 64 bytes from \a begin on, without a branch for each: one byte of ten is an opening, and none can be

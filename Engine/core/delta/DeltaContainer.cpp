@@ -56,7 +56,10 @@ bool DataFits(DeltaManifest const& manifest, std::uint64_t dataOffset, std::uint
 struct DeltaStream::State
 {
     State(int containerFd, std::uint64_t begin, StoredStream const& stored, int windowLog)
-        : fd(containerFd), offset(begin), missing(stored.size), unpacker(MakeUnpacker(stored.packing, windowLog))
+        : fd(containerFd)
+        , offset(begin)
+        , missing(stored.size)
+        , unpacker(missing > 0 ? MakeUnpacker(stored.packing, windowLog) : nullptr)
     {
     }
 
@@ -75,8 +78,8 @@ struct DeltaStream::State
 
     int fd;
     std::uint64_t offset;
-    std::uint64_t missing; ///< compressed bytes not read yet
-    std::unique_ptr<IUnpacker> unpacker;
+    std::uint64_t missing;               ///< compressed bytes not read yet
+    std::unique_ptr<IUnpacker> unpacker; ///< null for an empty stream
     std::array<std::uint8_t, 64 * 1024> buffer;
     Bytes input;
     bool isDone = missing == 0;

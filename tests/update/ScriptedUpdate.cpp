@@ -45,7 +45,13 @@ BestItemAnswer ScriptedHost::AskForBestItem()
 
 int ScriptedHost::CompareVersions(QString const& a, QString const& b)
 {
-    double const difference = a.toDouble() - b.toDouble();
+    bool isReadable[2] = {};
+    double const difference = a.toDouble(&isReadable[0]) - b.toDouble(&isReadable[1]);
+    if (!isReadable[0] || !isReadable[1])
+    {
+        ++unreadableVersions;
+        return 0;
+    }
     return difference < 0 ? -1 : difference > 0 ? 1 : 0;
 }
 

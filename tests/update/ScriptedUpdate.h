@@ -35,6 +35,7 @@ public:
 
     void FeedLoaded(std::vector<Engine::FeedItem> const& items) override { itemCount = items.size(); }
     Engine::BestItemAnswer AskForBestItem() override;
+    /// Like the session, takes what it cannot read as equal; there it writes to the log.
     int CompareVersions(QString const& a, QString const& b) override;
     void TellFound(Engine::FoundUpdate const& found) override;
     void TellNotFound() override { Note("not found"); }
@@ -68,6 +69,7 @@ public:
     std::optional<Engine::EngineError> error;
     std::function<void(Engine::FoundUpdate const&)> onFound;
     std::function<void()> onEnded;
+    int unreadableVersions = 0;
     std::size_t itemCount = 0;
     std::optional<Engine::FeedRecord> feedRecord;
     std::optional<Engine::BackOffState> backOff; ///< the stored value

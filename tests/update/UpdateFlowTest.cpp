@@ -246,6 +246,18 @@ TEST_F(UpdateFlowTest, FeedCannotFillTheLog)
                                               "The feed has 280 more items that cannot be offered"}));
 }
 
+TEST_F(UpdateFlowTest, ItemsWhoseVersionCannotBeReadAreComparedAFewTimes)
+{
+    QByteArray items;
+    for (int i = 0; i < 300; ++i)
+    {
+        items += "<item><title>News</title></item>" + ItemOf("x" + QByteArray::number(i)).replace("length=", "size=");
+    }
+    Publish(FeedWith(items + Signed(ItemOf("5.1"))));
+    Run(CheckKind::Probe);
+    EXPECT_EQ(host.unreadableVersions, 20);
+}
+
 TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
 {
     Publish(FeedWith(ItemOf("5.1")));

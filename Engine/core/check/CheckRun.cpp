@@ -271,11 +271,16 @@ void CheckRun::ApplyPolicy()
     VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
     LeaveOut(m_items, installation, order);
     int defects = 0;
+    int unreadable = 0;
     for (FeedItem const& item : m_items)
     {
         char const* const defect = DefectOf(item);
-        bool const isMissed = defect && order(item.versionString, m_settings.bundleVersion) > 0;
-        LOG_IF(WARNING, isMissed && ++defects <= MAX_LOGGED_ITEMS)
+        // A comparator writes to the log for each text that it cannot read, and takes it as equal.
+        bool const isCompared = defect && !item.versionString.isEmpty() && !m_settings.bundleVersion.isEmpty() &&
+                                item.versionString != m_settings.bundleVersion && unreadable < MAX_LOGGED_ITEMS;
+        int const newer = isCompared ? order(item.versionString, m_settings.bundleVersion) : 0;
+        unreadable += isCompared && newer == 0 ? 1 : 0;
+        LOG_IF(WARNING, newer > 0 && ++defects <= MAX_LOGGED_ITEMS)
             << "The feed's item " << EscapedRemoteText(item.versionString).toStdString()
             << " cannot be offered, because " << defect;
     }

@@ -253,7 +253,7 @@ TEST_F(UpdateFlowTest, ItemsWhoseVersionCannotBeReadAreComparedAFewTimes)
     {
         items += "<item><title>News</title></item>" + ItemOf("x" + QByteArray::number(i)).replace("length=", "size=");
     }
-    Publish(FeedWith(items + Signed(ItemOf("5.1"))));
+    Publish(FeedWith(Signed(ItemOf("5.1")) + items));
     Run(CheckKind::Probe);
     EXPECT_EQ(host.unreadableVersions, 20);
 }

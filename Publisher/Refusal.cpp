@@ -35,7 +35,10 @@ bool RefusalList::Try(std::function<void()> const& work)
     }
     catch (Refusal const& refusal)
     {
-        Add(refusal);
+        for (Problem const& problem : refusal.Reasons())
+        {
+            Add(problem, refusal.Cause());
+        }
     }
     return false;
 }
@@ -44,14 +47,6 @@ void RefusalList::Add(Problem problem, RefusalCause cause)
 {
     m_problems.push_back(std::move(problem));
     m_cause = cause == RefusalCause::Content ? cause : m_cause;
-}
-
-void RefusalList::Add(Refusal const& refusal)
-{
-    for (Problem const& problem : refusal.Reasons())
-    {
-        Add(problem, refusal.Cause());
-    }
 }
 
 void RefusalList::ThrowIfAny() const

@@ -46,7 +46,6 @@ public:
     /// Runs \a work and keeps the Refusal that it throws. Returns true if it throws none.
     bool Try(std::function<void()> const& work);
     void Add(Problem problem, RefusalCause cause = RefusalCause::Content);
-    void Add(Refusal const& refusal);
     [[nodiscard]] bool IsEmpty() const { return m_problems.empty(); }
     /// Throws one Refusal for all problems. Its cause is Content if one of them has that cause.
     void ThrowIfAny() const;

@@ -3,7 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 
 #include <QJsonArray>
 

@@ -368,6 +368,11 @@ App::Session::UpdateType UpdateTypeOf(FeedItem const& item)
     return Candidate(item).Type();
 }
 
+QString UpdateTypeNameOf(FeedItem const& item)
+{
+    return QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(item)));
+}
+
 bool ServesClient(FeedItem const& delta, Client const& client)
 {
     return client.previousAnswer == PreviousAnswer::NONE &&

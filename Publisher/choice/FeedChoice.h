@@ -61,6 +61,8 @@ FeedChoice ChooseFromFeed(std::vector<Engine::FeedItem> const& items, Client con
 App::Session::Judgement JudgeFeedItem(Engine::FeedItem const& item, Client const& client);
 
 App::Session::UpdateType UpdateTypeOf(Engine::FeedItem const& item);
+/// "BUNDLE", "DELTA".
+QString UpdateTypeNameOf(Engine::FeedItem const& item);
 
 /// True if \a client considers \a delta, of the best full item.
 [[nodiscard]] bool ServesClient(Engine::FeedItem const& delta, Client const& client);

@@ -9,7 +9,6 @@ namespace
 
 using App::Session::Judgement;
 using App::Session::PreferenceRule;
-using App::Session::UpdateType;
 using Engine::FeedItem;
 
 QString Quoted(QString const& text)
@@ -43,11 +42,6 @@ QString FailedTest(FeedItem const& item, Judgement judgement, Client const& clie
         return {};
     }
     return {};
-}
-
-QString KindOf(FeedItem const& item)
-{
-    return QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(item)));
 }
 
 class Explainer
@@ -85,7 +79,6 @@ private:
         ItemExplanation result;
         result.item = &item;
         result.index = index;
-        result.updateType = UpdateTypeOf(item);
         result.verdict = JudgeFeedItem(item, m_client);
         result.policy = PolicyOf(item, m_installation);
         result.extensions = ExtensionsOf(item);
@@ -197,7 +190,7 @@ private:
         case PreferenceRule::NEWER_VERSION:
             return u"newer version, %1 > %2"_s.arg(winner.versionString, loser.versionString);
         case PreferenceRule::WANTED_TYPE:
-            return u"kind, %1 is preferred to %2"_s.arg(KindOf(winner), KindOf(loser));
+            return u"kind, %1 is preferred to %2"_s.arg(UpdateTypeNameOf(winner), UpdateTypeNameOf(loser));
         case PreferenceRule::SAME_ADDRESS:
             return u"same address, and it comes first"_s;
         case PreferenceRule::LATER_DATE:

@@ -27,7 +27,6 @@ struct ItemExplanation
 {
     Engine::FeedItem const* item = nullptr;
     int index = 0; ///< in the feed, or among the deltas of the item; from 0
-    App::Session::UpdateType updateType = App::Session::UpdateType::UNKNOWN;
     App::Session::Judgement verdict = App::Session::Judgement::VALID; ///< also of a delta that is not considered
     Engine::PolicyVerdict policy = Engine::PolicyVerdict::Plain;
     Standing standing = Standing::Refused;

@@ -18,11 +18,6 @@ QString AddressOf(FeedItem const& item)
     return item.fileUrl.toString(QUrl::FullyEncoded);
 }
 
-QString TypeName(App::Session::UpdateType type)
-{
-    return QLatin1String(App::Session::UpdateTypeName(type));
-}
-
 QJsonObject JsonOfExtensions(QVariantMap const& extensions)
 {
     QJsonObject result;
@@ -43,7 +38,7 @@ QJsonObject JsonOfItem(ItemExplanation const& explained)
         {u"version"_s, item.versionString},
         {u"url"_s, AddressOf(item)},
         {u"length"_s, double(item.contentLength)},
-        {u"updateType"_s, TypeName(explained.updateType)},
+        {u"updateType"_s, UpdateTypeNameOf(item)},
         {u"verdict"_s, QLatin1String(explained.VerdictName())},
         {u"detail"_s, explained.detail},
         {u"extensions"_s, JsonOfExtensions(explained.extensions)},
@@ -93,7 +88,7 @@ QString HeadOf(ItemExplanation const& explained)
     QString const name = item.isDelta ? u"delta %1, from %2"_s.arg(explained.index).arg(item.deltaFrom)
                                       : u"item %1"_s.arg(explained.index);
     QString const title = item.isDelta || item.title.isEmpty() ? QString() : u"  "_s + item.title;
-    return u"%1: %2  %3  %4%5"_s.arg(name, version, TypeName(explained.updateType), SizeOf(item), title);
+    return u"%1: %2  %3  %4%5"_s.arg(name, version, UpdateTypeNameOf(item), SizeOf(item), title);
 }
 
 void PrintItem(ItemExplanation const& explained, QString const& indent, Console const& console)
@@ -142,7 +137,7 @@ QString AnswerOf(Explanation const& explanation)
         download += u" of "_s + place;
     }
     return u"%1 as %2, %3, %4"_s.arg(
-        chosen.versionString, TypeName(UpdateTypeOf(chosen)), download,
+        chosen.versionString, UpdateTypeNameOf(chosen), download,
         explanation.choice.rivals.empty() ? SizeOf(chosen) : u"as their order decides, which no rule defines"_s);
 }
 

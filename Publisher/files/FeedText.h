@@ -19,7 +19,7 @@ public:
 
     /// The text without changes.
     QString const& Original() const { return m_text; }
-    /// The end of a line, as in most of the feed.
+    /// A carriage return and a line feed if the text has both together, otherwise a line feed.
     QString LineEnd() const;
     /// Ranges that are replaced do not overlap. Texts at the same place are in the order of the calls.
     void Replace(TextRange const& range, QString const& text);

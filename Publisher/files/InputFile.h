@@ -8,25 +8,14 @@
 #include <QString>
 
 #include <cstdint>
+#include <tuple>
 
 namespace Pelnar::Publisher
 {
 
-/// What changes when somebody writes to a file or puts another in its place.
-struct FileMark
-{
-    std::uint64_t device = 0;
-    std::uint64_t number = 0;
-    std::uint64_t size = 0;
-    std::int64_t changeSeconds = 0;
-    std::int64_t changeNanoseconds = 0;
-
-    friend bool operator==(FileMark const& a, FileMark const& b)
-    {
-        return a.device == b.device && a.number == b.number && a.size == b.size && a.changeSeconds == b.changeSeconds &&
-               a.changeNanoseconds == b.changeNanoseconds;
-    }
-};
+/// What changes if somebody writes to a file or puts another in its place: device, number, size, and the seconds and
+/// nanoseconds of the last change.
+using FileMark = std::tuple<std::uint64_t, std::uint64_t, std::uint64_t, std::int64_t, std::int64_t>;
 
 struct InputFile
 {

@@ -6,7 +6,7 @@
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 
 namespace Pelnar::Publisher
 {

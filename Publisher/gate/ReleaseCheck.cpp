@@ -9,7 +9,7 @@
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/gate/ReleaseFiles.h"
 #include "Publisher/gate/ReleaseGate.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 #include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
 

@@ -2,7 +2,7 @@
 
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Publisher/gate/ReleaseFiles.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,7 +28,7 @@ InputFile Workplace::Open(QString const& fileName) const
 {
     InputFile file = OpenInputFile(PathOf(fileName));
     auto const [known, isNew] = marks.emplace(fileName, file.mark);
-    if (!(known->second == file.mark))
+    if (known->second != file.mark)
     {
         RefuseChanged(file.name);
     }

@@ -1,7 +1,6 @@
 #include "Publisher/keys/CommandSigner.h"
 
 #include "Publisher/Refusal.h"
-#include "Publisher/keys/KeyId.h"
 
 #include <QFile>
 #include <QProcess>

@@ -3,7 +3,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/SharedOptions.h"
 #include "Publisher/choice/FeedChoice.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
 namespace Pelnar::Publisher

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <string>
@@ -15,6 +16,12 @@
 
 namespace Pelnar::Publisher
 {
+
+/// The short name of a public key, by which a feed says who signed and whom a version trusts:
+/// docs/formats/item-keys.md.
+QString KeyIdOf(std::string const& publicKey);
+/// The ids of \a keys.
+QStringList KeyIdsOf(Engine::TrustedKeys const& keys);
 
 /// A signature in addition to the one that every client reads.
 struct KeyedSignature

@@ -4,7 +4,6 @@
 #include "Engine/core/check/KeyStatement.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/SharedOptions.h"
-#include "Publisher/keys/KeyId.h"
 #include "Publisher/keys/Signer.h"
 
 #include <memory>

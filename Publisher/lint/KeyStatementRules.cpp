@@ -5,7 +5,7 @@
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/choice/FeedChoice.h"
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 #include "Publisher/lint/SignatureRules.h"
 
 #include <algorithm>

@@ -18,7 +18,7 @@ Outcome OutcomeOf(FeedChoice const& choice)
         return {};
     }
     Engine::FeedItem const& chosen = *choice.chosen;
-    Outcome outcome{chosen.versionString, QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(chosen))),
+    Outcome outcome{chosen.versionString, UpdateTypeNameOf(chosen),
                     chosen.deltaFrom,     chosen.fileUrl.toString(QUrl::FullyEncoded),
                     chosen.contentLength, {}};
     for (Engine::FeedItem const* const rival : choice.rivals)

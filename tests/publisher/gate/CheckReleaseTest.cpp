@@ -1,6 +1,6 @@
 // CheckReleaseTest.cpp: "check-release" for a folder and for a server: judges what is published as clients will.
 
-#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/Signer.h"
 #include "tests/engine/KeyStatementText.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/LoopbackServer.h"

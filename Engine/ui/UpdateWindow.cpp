@@ -71,20 +71,25 @@ void UpdateWindow::AddTexts(UpdateOffer const& offer)
 
 void UpdateWindow::AddNotes(ReleaseNotes const& notes)
 {
-    QString const name = QCoreApplication::translate("PelnarEngine_UpdateWindow", "Release notes");
-    m_notes = new NotesBrowser(this);
-    m_notes->setObjectName(QStringLiteral("PelnarEngine_releaseNotes"));
-    m_notes->setAccessibleName(name);
-    m_notes->setMinimumSize(NOTES_WIDTH, NOTES_HEIGHT);
-    connect(m_notes, &NotesBrowser::LinkActivated, this, m_openLink);
-    AddContent(m_notes);
-    m_linkButton = new QPushButton(
+    auto* const browser = new NotesBrowser(this);
+    browser->setObjectName(QStringLiteral("PelnarEngine_releaseNotes"));
+    browser->setAccessibleName(QCoreApplication::translate("PelnarEngine_UpdateWindow", "Release notes"));
+    browser->setMinimumSize(NOTES_WIDTH, NOTES_HEIGHT);
+    connect(browser, &NotesBrowser::LinkActivated, this, m_openLink);
+    browser->ShowNotes(notes.text, notes.format);
+    bool const hasText = !browser->document()->isEmpty();
+    browser->setVisible(hasText);
+    AddContent(browser);
+
+    QUrl const address = SafeUrl(notes.address);
+    auto* const button = new QPushButton(
         QCoreApplication::translate("PelnarEngine_UpdateWindow", "Show Release &Notes in Browser"), this);
-    m_linkButton->setObjectName(QStringLiteral("PelnarEngine_showNotesButton"));
-    m_linkButton->setAutoDefault(false);
-    connect(m_linkButton, &QPushButton::clicked, this, [this] { m_openLink(m_notesAddress); });
-    AddContent(m_linkButton);
-    SetReleaseNotes(notes);
+    button->setObjectName(QStringLiteral("PelnarEngine_showNotesButton"));
+    button->setAutoDefault(false);
+    button->setToolTip(QString::fromLatin1(address.toEncoded()));
+    button->setVisible(!hasText && !address.isEmpty());
+    connect(button, &QPushButton::clicked, this, [this, address] { m_openLink(address); });
+    AddContent(button);
 }
 
 QPushButton* UpdateWindow::AddAgreement(UpdateOffer const& offer)
@@ -128,17 +133,6 @@ void UpdateWindow::AddAnswers(UpdateOffer const& offer)
     QPushButton* const agreement = AddAgreement(offer);
     SetDefaultAnswer(agreement ? agreement : remindButton, remindButton);
     SetDismissal(choose(UpdateChoice::RemindMeLater));
-}
-
-void UpdateWindow::SetReleaseNotes(ReleaseNotes const& notes)
-{
-    m_notesAddress = SafeUrl(notes.address);
-    m_notes->ShowNotes(notes.text, notes.format);
-    bool const hasText = !m_notes->document()->isEmpty();
-    m_notes->setVisible(hasText);
-    m_linkButton->setVisible(!hasText && !m_notesAddress.isEmpty());
-    m_linkButton->setToolTip(QString::fromLatin1(m_notesAddress.toEncoded()));
-    GrowToContent();
 }
 
 } // namespace Pelnar::Engine

@@ -9,8 +9,6 @@
 namespace Pelnar::Engine
 {
 
-class NotesBrowser;
-
 class UpdateWindow : public EngineWindow
 {
     Q_OBJECT
@@ -20,9 +18,6 @@ public:
     UpdateWindow(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen,
                  std::function<void(QUrl const&)> openLink);
 
-    /// Shows \a notes in place of the previous ones. For notes at a link it shows a button.
-    void SetReleaseNotes(ReleaseNotes const& notes);
-
 private:
     void AddTexts(UpdateOffer const& offer);
     void AddNotes(ReleaseNotes const& notes);
@@ -31,9 +26,6 @@ private:
 
     std::function<void(UpdateChoice)> m_onChosen;
     std::function<void(QUrl const&)> m_openLink;
-    NotesBrowser* m_notes = nullptr;
-    QPushButton* m_linkButton = nullptr;
-    QUrl m_notesAddress;
 };
 
 } // namespace Pelnar::Engine

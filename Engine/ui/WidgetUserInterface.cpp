@@ -52,14 +52,6 @@ void WidgetUserInterface::ShowUpdate(UpdateOffer const& offer, CheckOrigin origi
     Show(std::make_unique<UpdateWindow>(offer, origin, Ending(std::move(onChosen)), m_openLink));
 }
 
-void WidgetUserInterface::ReplaceReleaseNotes(ReleaseNotes const& notes)
-{
-    if (auto* const window = qobject_cast<UpdateWindow*>(m_window.get()))
-    {
-        window->SetReleaseNotes(notes);
-    }
-}
-
 void WidgetUserInterface::ShowDownload(NamedVersion const& update, std::function<void()> onCancelled)
 {
     Show(std::make_unique<ProgressWindow>(update, Ending(std::move(onCancelled))));

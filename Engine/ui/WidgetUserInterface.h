@@ -27,7 +27,6 @@ public:
     void ShowChecking(std::function<void()> onCancelled) override;
     void ShowUpToDate(NamedVersion const& installed, std::function<void()> onClosed) override;
     void ShowUpdate(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen) override;
-    void ReplaceReleaseNotes(ReleaseNotes const& notes) override;
     void ShowDownload(NamedVersion const& update, std::function<void()> onCancelled) override;
     void SetProgress(UpdateProgress const& progress) override;
     void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,

@@ -240,30 +240,12 @@ TEST_F(WindowContent, NotesAtAnAddressThatMustNotBeFollowedAreNotOffered)
     EXPECT_FALSE(Part<QPushButton>("PelnarEngine_showNotesButton")->isVisible());
 }
 
-TEST_F(WindowContent, NotesThatComeLaterTakeThePlaceOfTheButton)
-{
-    UpdateOffer offer = FullOffer();
-    offer.notes.text.clear();
-    offer.notes.address = QUrl(QStringLiteral("https://tidepool.example/notes"));
-    ShowOffer(offer);
-    ReleaseNotes notes;
-    notes.text = QStringLiteral("<p>They came late</p>");
-    Ui().ReplaceReleaseNotes(notes);
-    EXPECT_TRUE(Part<QTextBrowser>("PelnarEngine_releaseNotes")->isVisible());
-    EXPECT_EQ(Part<QTextBrowser>("PelnarEngine_releaseNotes")->toPlainText(), QStringLiteral("They came late"));
-    EXPECT_FALSE(Part<QPushButton>("PelnarEngine_showNotesButton")->isVisible());
-}
-
 TEST_F(WindowContent, WhatComesForAnotherWindowIsIgnored)
 {
-    ReleaseNotes notes;
-    notes.text = QStringLiteral("late");
-    Ui().ReplaceReleaseNotes(notes);
     Ui().SetProgress({});
     Ui().BringToFront();
     EXPECT_TRUE(VisibleWindows().empty());
     Ui().ShowChecking([] {});
-    Ui().ReplaceReleaseNotes(notes);
     Ui().SetProgress({});
     EXPECT_EQ(Part<QLabel>("PelnarEngine_heading")->text(), QStringLiteral("Checking for updates…"));
 }

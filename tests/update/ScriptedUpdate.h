@@ -91,7 +91,6 @@ public:
     void ShowUpToDate(Engine::NamedVersion const& installed, std::function<void()> onClosed) override;
     void ShowUpdate(Engine::UpdateOffer const& shown, Engine::CheckOrigin origin,
                     std::function<void(Engine::UpdateChoice)> onChosen) override;
-    void ReplaceReleaseNotes(Engine::ReleaseNotes const&) override {}
     void ShowDownload(Engine::NamedVersion const& update, std::function<void()> onCancelled) override;
     void SetProgress(Engine::UpdateProgress const& progress) override { progresses.push_back(progress); }
     void ShowReadyToInstall(Engine::NamedVersion const& update, Engine::CheckOrigin origin,

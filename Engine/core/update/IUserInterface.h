@@ -22,8 +22,6 @@ public:
     virtual void ShowUpToDate(NamedVersion const& installed, std::function<void()> onClosed) = 0;
     virtual void ShowUpdate(UpdateOffer const& offer, CheckOrigin origin,
                             std::function<void(UpdateChoice)> onChosen) = 0;
-    /// Sets release notes that arrived after the update window opened. Does nothing if another window is open.
-    virtual void ReplaceReleaseNotes(ReleaseNotes const& notes) = 0;
     virtual void ShowDownload(NamedVersion const& update, std::function<void()> onCancelled) = 0;
     /// Does nothing if no download is shown.
     virtual void SetProgress(UpdateProgress const& progress) = 0;

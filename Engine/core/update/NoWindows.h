@@ -15,7 +15,6 @@ public:
     void ShowChecking(std::function<void()>) override {}
     void ShowUpToDate(NamedVersion const&, std::function<void()>) override {}
     void ShowUpdate(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen) override;
-    void ReplaceReleaseNotes(ReleaseNotes const&) override {}
     void ShowDownload(NamedVersion const&, std::function<void()>) override {}
     void SetProgress(UpdateProgress const&) override {}
     void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,

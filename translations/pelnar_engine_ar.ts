@@ -869,6 +869,10 @@
         <source>Line %1 of the feed begins a document that is not a feed.</source>
         <translation>يبدأ في السطر %1 من الموجز مستند ليس موجزًا.</translation>
     </message>
+    <message>
+        <source>This network asks you to sign in. Sign in and try again.</source>
+        <translation>تطلب هذه الشبكة تسجيل الدخول. سجّل الدخول ثم أعد المحاولة.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

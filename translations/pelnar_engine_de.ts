@@ -869,6 +869,10 @@
         <source>Line %1 of the feed begins a document that is not a feed.</source>
         <translation>In Zeile %1 des Feeds beginnt ein Dokument, das kein Feed ist.</translation>
     </message>
+    <message>
+        <source>This network asks you to sign in. Sign in and try again.</source>
+        <translation>Dieses Netzwerk verlangt eine Anmeldung. Melden Sie sich an und versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

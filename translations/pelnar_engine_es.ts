@@ -869,6 +869,10 @@
         <source>Line %1 of the feed begins a document that is not a feed.</source>
         <translation>La línea %1 del canal empieza un documento que no es un canal.</translation>
     </message>
+    <message>
+        <source>This network asks you to sign in. Sign in and try again.</source>
+        <translation>Esta red pide que inicie sesión. Inicie sesión e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

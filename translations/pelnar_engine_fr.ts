@@ -869,6 +869,10 @@
         <source>Line %1 of the feed begins a document that is not a feed.</source>
         <translation>La ligne %1 du flux commence un document qui n’est pas un flux.</translation>
     </message>
+    <message>
+        <source>This network asks you to sign in. Sign in and try again.</source>
+        <translation>Ce réseau demande une connexion. Connectez-vous et réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

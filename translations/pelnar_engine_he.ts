@@ -869,6 +869,10 @@
         <source>Line %1 of the feed begins a document that is not a feed.</source>
         <translation>בשורה %1 של הערוץ מתחיל מסמך שאינו ערוץ.</translation>
     </message>
+    <message>
+        <source>This network asks you to sign in. Sign in and try again.</source>
+        <translation>הרשת הזאת דורשת התחברות. יש להתחבר ולנסות שוב.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -80,10 +80,21 @@ TEST(EngineError, OfAStatusHasTheStatusAsItsNumberInADomainOfItsOwn)
     for (int status = 200; status < 600; ++status)
     {
         EngineError const error = MakeHttpStatusError(status);
-        EXPECT_EQ(error.UnderlyingDomain(), QStringLiteral("PelnarHTTPStatusErrorDomain"));
-        EXPECT_EQ(error.UnderlyingCode(), status);
+        if (status != 511)
+        {
+            EXPECT_EQ(error.UnderlyingDomain(), QStringLiteral("PelnarHTTPStatusErrorDomain"));
+            EXPECT_EQ(error.UnderlyingCode(), status);
+        }
         EXPECT_TRUE(sentences.insert(error.sentence.English().toStdString()).second) << status;
     }
+}
+
+TEST(EngineError, StatusOfANetworkAsksThePersonToSignIn)
+{
+    EngineError const error = MakeHttpStatusError(511);
+    EXPECT_EQ(error.cause, ErrorCause::NetworkSignIn);
+    EXPECT_EQ(error.sentence.English(), QStringLiteral("This network asks you to sign in. Sign in and try again."));
+    EXPECT_EQ(AsDownloadError(error).sentence.English(), error.sentence.English());
 }
 
 TEST(EngineError, OfAFeedHasTheNumberOfItsKind)

@@ -6,6 +6,13 @@
 
 namespace Pelnar::Engine
 {
+namespace
+{
+
+/// Network Authentication Required. It comes from the network, not from the server.
+constexpr int STATUS_NETWORK_SIGN_IN = 511;
+
+} // namespace
 
 QString EngineError::UnderlyingDomain() const
 {
@@ -49,6 +56,10 @@ EngineError MakeError(ErrorCause cause, QString const& remoteDetail)
 
 EngineError MakeHttpStatusError(int status)
 {
+    if (status == STATUS_NETWORK_SIGN_IN)
+    {
+        return MakeError(ErrorCause::NetworkSignIn);
+    }
     EngineError error = MakeError(ErrorCause::HttpStatus);
     error.httpStatus = status;
     error.sentence = Sentence(error.sentence.Source(), {QString::number(status)});

@@ -3,6 +3,8 @@
 #include "Engine/core/base/TreeAccess.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/files/FaultText.h"
+#include "Publisher/gate/PrivateKeys.h"
+#include "Publisher/gate/ProgramFile.h"
 
 #include <algorithm>
 #include <cstring>
@@ -294,6 +296,13 @@ void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version
     {
         check.CheckFor(*version.bundle, QString());
     }
+}
+
+void CheckContent(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
+                  RefusalList& refusals)
+{
+    CheckProgramFile(bundle, version, refusals);
+    CheckPrivateKeys(bundle, version, all, refusals);
 }
 
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)

@@ -13,6 +13,11 @@ namespace Pelnar::Publisher
 void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
                            Engine::Machine const& machine, RefusalList& refusals);
 
+/// What no client notices, but no publisher intends: private keys in the bundle of \a version, and a program that
+/// cannot start. Throws Refusal for a file that cannot be read.
+void CheckContent(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
+                  RefusalList& refusals);
+
 /// Each version must trust a key that signs it. Clients of every older version must reach it: by a key that they trust,
 /// or through versions between that bring another key. A client without such a path never gets another update.
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals);

@@ -226,6 +226,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     item.trustedIds = version.trustedIds;
     BelieveStatement(version, m_feed.With({}));
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
+    CheckContent(bundle, version, m_versions, refusals);
     WarnOf(version);
     WarnOfSettings(information, version);
     item.machines = version.machines;
@@ -349,6 +350,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
     version.signerIds = m_workplace.KeyIds();
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
+    CheckContent(bundle, version, m_versions, refusals);
     item.machines = version.machines;
     m_versions.push_back(std::move(version));
 }

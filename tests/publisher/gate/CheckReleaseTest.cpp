@@ -282,4 +282,18 @@ TEST_F(CheckRelease, PublishedReleaseIsFetchedFromItsServer)
     ExpectSaid(RunTool({QStringLiteral("check-release"), address}), {"/Test-2.0.zip: "});
 }
 
+TEST_F(CheckRelease, ContentThatNoClientNoticesIsNamed)
+{
+    HandMadeRelease release;
+    BundleText text = Version("1.0");
+    std::vector<ForgedEntry> entries = MakePublishedBundle(text);
+    entries.push_back({"Test.app/key", 'f', Base64(std::string(32, '\7'))});
+    release.Add(text, 7, entries);
+    text = Version("1.1");
+    text.program = "#!/bin/sh\r\n";
+    release.Add(text);
+    ExpectSaid(release.Check(), {"Test-1.0.zip: contains a private key", "\"Test.app/key\"",
+                                 "Test-1.1.zip: the program's first line ends"});
+}
+
 } // namespace Pelnar::Testing

@@ -175,6 +175,58 @@ TEST(StreamUnpacker, NoDamageOfLzmaMakesMoreThanWasPacked)
     }
 }
 
+ByteBuffer PackedByZstd(std::string const& plain)
+{
+    return CompressForDelta({reinterpret_cast<std::uint8_t const*>(plain.data()), plain.size()}, NUMBERS_WINDOW_LOG,
+                            DeltaEffort::Low);
+}
+
+TEST(StreamUnpacker, SmallStreamsThatShareAContextAreUnpackedInTurn)
+{
+    std::string const texts[] = {Noise(3, 300), std::string(3000, 'x'), Noise(4, 20)};
+    std::vector<std::unique_ptr<IUnpacker>> unpackers;
+    for (std::string const& text : texts)
+    {
+        SCOPED_TRACE(text.size());
+        ByteBuffer packed = PackedByZstd(text);
+        packed.insert(packed.end(), {1, 2});
+        for (std::size_t const room : {text.size(), text.size() - 1})
+        {
+            IUnpacker& unpacker = *unpackers.emplace_back(MakeUnpacker(0, NUMBERS_WINDOW_LOG));
+            Bytes input;
+            ByteBuffer made(room);
+            EXPECT_EQ(unpacker.Unpack(input, made.data(), made.size()).state, IUnpacker::State::Going);
+            input = Bytes(packed.data(), packed.size());
+            IUnpacker::Step const step = unpacker.Unpack(input, made.data(), made.size());
+            EXPECT_EQ(step.state, room == text.size() ? IUnpacker::State::Ended : IUnpacker::State::Going);
+            EXPECT_EQ(step.made, room);
+            EXPECT_TRUE(std::equal(made.begin(), made.end(), text.begin(),
+                                   [](std::uint8_t a, char b) { return a == static_cast<std::uint8_t>(b); }));
+            EXPECT_GE(input.size(), 2u) << "what follows the stream is not used";
+        }
+    }
+}
+
+TEST(StreamUnpacker, ADamagedSmallStreamStaysDamaged)
+{
+    ByteBuffer const packed = PackedByZstd(std::string(40, 'x') + Noise(5, 300));
+    std::size_t damages = 0;
+    for (std::size_t at = 0; at < packed.size(); ++at)
+    {
+        ByteBuffer changed = packed;
+        changed[at] ^= 0x20;
+        auto const unpacker = MakeUnpacker(0, NUMBERS_WINDOW_LOG);
+        Bytes input(changed.data(), changed.size());
+        ByteBuffer made(4096);
+        if (unpacker->Unpack(input, made.data(), made.size()).state == IUnpacker::State::Damaged)
+        {
+            ++damages;
+            EXPECT_EQ(unpacker->Unpack(input, made.data(), made.size()).state, IUnpacker::State::Damaged) << at;
+        }
+    }
+    EXPECT_GT(damages, 0u);
+}
+
 TEST(StreamUnpacker, PropertiesThatLzmaDoesNotKnowAreDamage)
 {
     auto const unpacker = MakeUnpacker(225, NUMBERS_WINDOW_LOG);

@@ -14,17 +14,31 @@ namespace
 class ZstdUnpacker : public IUnpacker
 {
 public:
-    explicit ZstdUnpacker(int windowLog) : m_context(ZSTD_createDCtx(), ZSTD_freeDCtx)
-    {
-        if (!m_context)
-        {
-            throw std::bad_alloc();
-        }
-        ZSTD_DCtx_setParameter(m_context.get(), ZSTD_d_windowLogMax, windowLog);
-    }
+    explicit ZstdUnpacker(int windowLog) : m_windowLog(windowLog) {}
 
     Step Unpack(Bytes& input, std::uint8_t* target, std::size_t size) override
     {
+        Step const step = m_isDamaged ? Step{0, State::Damaged} : UnpackNext(input, target, size);
+        m_isDamaged = step.state == State::Damaged;
+        return step;
+    }
+
+private:
+    Step UnpackNext(Bytes& input, std::uint8_t* target, std::size_t size)
+    {
+        if (input.empty() && !m_context)
+        {
+            return {0, State::Going};
+        }
+        if (!m_context)
+        {
+            if (IsWhole(input) && ZSTD_getFrameContentSize(input.data(), input.size()) <= size)
+            {
+                return UnpackAll(input, target, size);
+            }
+            m_context = NewContext();
+            ZSTD_DCtx_setParameter(m_context.get(), ZSTD_d_windowLogMax, m_windowLog);
+        }
         ZSTD_inBuffer in{input.data(), input.size(), 0};
         ZSTD_outBuffer out{target, size, 0};
         std::size_t const answer = ZSTD_decompressStream(m_context.get(), &out, &in);
@@ -33,8 +47,35 @@ public:
         return {out.pos, ZSTD_isError(answer) ? State::Damaged : state};
     }
 
-private:
-    std::unique_ptr<ZSTD_DCtx, std::size_t (*)(ZSTD_DCtx*)> m_context;
+    static bool IsWhole(Bytes input) { return !ZSTD_isError(ZSTD_findFrameCompressedSize(input.data(), input.size())); }
+
+    /// The small streams of a thread share a context: to make one takes longer than to unpack some hundred bytes.
+    Step UnpackAll(Bytes& input, std::uint8_t* target, std::size_t size)
+    {
+        thread_local std::weak_ptr<ZSTD_DCtx> shared;
+        m_shared = shared.lock();
+        m_shared = m_shared ? m_shared : NewContext();
+        shared = m_shared;
+        std::size_t const used = ZSTD_findFrameCompressedSize(input.data(), input.size());
+        std::size_t const made = ZSTD_decompressDCtx(m_shared.get(), target, size, input.data(), used);
+        input.remove_prefix(used);
+        return ZSTD_isError(made) ? Step{0, State::Damaged} : Step{made, State::Ended};
+    }
+
+    static std::shared_ptr<ZSTD_DCtx> NewContext()
+    {
+        std::shared_ptr<ZSTD_DCtx> context(ZSTD_createDCtx(), ZSTD_freeDCtx);
+        if (!context)
+        {
+            throw std::bad_alloc();
+        }
+        return context;
+    }
+
+    int m_windowLog;
+    bool m_isDamaged = false;             ///< what follows the damage must not be taken for a stream
+    std::shared_ptr<ZSTD_DCtx> m_context; ///< null before the first input, and for a small stream
+    std::shared_ptr<ZSTD_DCtx> m_shared;  ///< keeps the context for the thread's next small stream
 };
 
 class LzmaUnpacker : public IUnpacker

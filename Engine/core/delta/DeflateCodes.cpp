@@ -76,15 +76,6 @@ std::uint32_t DistanceSymbolOf(std::uint16_t distance)
 
 } // namespace
 
-void BitReader::RefillAtEnd()
-{
-    for (; m_count <= 56; m_count += 8, ++m_next)
-    {
-        m_bits &= ~(~std::uint64_t(0) << m_count);
-        m_bits |= m_next < m_bytes.size() ? std::uint64_t(m_bytes[m_next]) << m_count : 0;
-    }
-}
-
 void BitWriter::Append(Bytes bytes)
 {
     m_count = (m_count + 7) & ~7u;
@@ -155,23 +146,22 @@ void DeflateCode::MakeTable()
 }
 
 /// The codes of one length are consecutive numbers, and follow those of shorter lengths.
-std::uint32_t DeflateCode::ReadLong(BitReader& bits) const
+std::uint32_t DeflateCode::FindLong(std::uint32_t bits) const
 {
     std::uint32_t code = 0;
     std::uint32_t first = 0;
     std::uint32_t place = 0;
     for (unsigned length = 1; length <= MAX_CODE_BITS; ++length)
     {
-        code = code << 1 | (bits.Peek() >> (length - 1) & 1);
+        code = code << 1 | (bits >> (length - 1) & 1);
         if (code - first < m_counts[length])
         {
-            bits.Skip(length);
-            return m_sorted[place + (code - first)];
+            return std::uint32_t(m_sorted[place + (code - first)]) << 4 | length;
         }
         first = (first + m_counts[length]) << 1;
         place += m_counts[length];
     }
-    return MAX_SYMBOLS;
+    return std::uint32_t(MAX_SYMBOLS) << 4;
 }
 
 bool BlockCodes::SetFixed()
@@ -238,7 +228,7 @@ void BlockCodes::StartReading()
     m_distances.MakeTable();
 }
 
-bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
+[[gnu::always_inline]] inline bool BlockCodes::ReadNext(BitReader& bits, DeflateToken& token, bool& isEnd) const
 {
     bits.Refill(); // a token has at most 48 bits
     std::uint32_t const symbol = m_lengths.Read(bits);
@@ -262,6 +252,29 @@ bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
     token.length = static_cast<std::uint16_t>(length);
     token.value = static_cast<std::uint16_t>(DISTANCES[distance].base + bits.TakeReady(DISTANCES[distance].bits));
     return !bits.IsOverrun();
+}
+
+bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
+{
+    return ReadNext(bits, token, isEnd);
+}
+
+std::size_t BlockCodes::Read(BitReader& bits, DeflateToken* tokens, std::size_t most, bool& isEnd) const
+{
+    BitReader reader = bits; // in registers
+    std::size_t taken = 0;
+    bool isGood = true;
+    bool isOver = false;
+    while (taken < most && isGood && !isOver)
+    {
+        DeflateToken token;
+        isGood = ReadNext(reader, token, isOver);
+        tokens[taken] = token;
+        taken += isGood && !isOver ? 1 : 0;
+    }
+    bits = reader;
+    isEnd = isOver && isGood;
+    return taken;
 }
 
 void BlockCodes::StartWriting()

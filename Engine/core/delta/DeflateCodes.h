@@ -61,7 +61,15 @@ public:
     bool IsOverrun() const { return Position() > m_bytes.size() * 8; }
 
 private:
-    void RefillAtEnd();
+    // Inline, as all of this class, so that a loop keeps it in registers.
+    void RefillAtEnd()
+    {
+        for (; m_count <= 56; m_count += 8, ++m_next)
+        {
+            m_bits &= ~(~std::uint64_t(0) << m_count);
+            m_bits |= m_next < m_bytes.size() ? std::uint64_t(m_bytes[m_next]) << m_count : 0;
+        }
+    }
 
     Bytes m_bytes;
     std::size_t m_next;       ///< the first byte that is not in m_bits; past the end if m_bits contains padding zeros
@@ -133,16 +141,18 @@ public:
     /// ready.
     std::uint32_t Read(BitReader& bits) const
     {
-        std::uint16_t const found = m_table[bits.Peek() % m_table.size()];
+        std::uint32_t const entry = m_table[bits.Peek() % m_table.size()];
+        std::uint32_t const found = entry != 0 ? entry : FindLong(bits.Peek());
         bits.Skip(found & 15u);
-        return found != 0 ? found >> 4 : ReadLong(bits);
+        return found >> 4;
     }
     CodedBits Coded(std::uint32_t symbol) const { return {m_codes[symbol], m_lengths[symbol]}; }
 
 private:
     static constexpr unsigned TABLE_BITS = 10;
 
-    std::uint32_t ReadLong(BitReader& bits) const;
+    /// An entry as in the table, for any code that \a bits start with. For no code its symbol is MAX_SYMBOLS.
+    std::uint32_t FindLong(std::uint32_t bits) const;
 
     std::array<std::uint8_t, MAX_SYMBOLS> m_lengths{};
     std::array<std::uint16_t, MAX_SYMBOLS> m_codes{};        ///< with the first bit lowest, as they are written
@@ -180,6 +190,8 @@ public:
     void StartReading();
     /// Reads the next token, or sets \a isEnd at the end of the block. Returns false for damaged data.
     [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd) const;
+    /// Reads the next tokens, at most \a most. Returns how many; fewer only with \a isEnd, and for damaged data.
+    [[nodiscard]] std::size_t Read(BitReader& bits, DeflateToken* tokens, std::size_t most, bool& isEnd) const;
     /// REQUIRES: before the first Write after the codes have changed.
     void StartWriting();
     /// Returns false for a token without a code.
@@ -188,6 +200,8 @@ public:
 
 private:
     static constexpr std::size_t MAX_LENGTH = 258;
+
+    bool ReadNext(BitReader& bits, DeflateToken& token, bool& isEnd) const;
 
     DeflateCode m_lengths;
     DeflateCode m_distances;

@@ -3,7 +3,10 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <new>
+#include <numeric>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -58,16 +61,25 @@ ByteBuffer Deflate(Bytes text, std::size_t begin, std::size_t end, DeflateParame
     return packed;
 }
 
+/// How many bytes \a a and \a b, of \a size bytes, have in common before their first difference.
+std::size_t EqualBytes(std::uint8_t const* a, std::uint8_t const* b, std::size_t size)
+{
+    constexpr std::size_t BLOCK_BYTES = 256;
+    std::size_t equal = 0;
+    while (size - equal >= BLOCK_BYTES && std::memcmp(a + equal, b + equal, BLOCK_BYTES) == 0)
+    {
+        equal += BLOCK_BYTES;
+    }
+    return static_cast<std::size_t>(std::mismatch(a + equal, a + size, b + equal).first - a);
+}
+
 void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t leastBytes, EqualRun like,
                      std::vector<EqualRun>& runs)
 {
     auto const [oldBegin, begin, size] = like;
     for (std::size_t at = 0; at < size;)
     {
-        auto const from = text.begin() + static_cast<std::ptrdiff_t>(begin + at);
-        auto const old = base.text.begin() + static_cast<std::ptrdiff_t>(oldBegin + at);
-        auto const equal = static_cast<std::size_t>(
-            std::mismatch(from, from + static_cast<std::ptrdiff_t>(size - at), old).first - from);
+        std::size_t const equal = EqualBytes(text.data() + begin + at, base.text.data() + oldBegin + at, size - at);
         // The old tokens are read once and in order.
         bool const isBehind = runs.empty() || runs.back().oldBegin + runs.back().size <= oldBegin + at;
         if (equal >= leastBytes && isBehind)
@@ -231,13 +243,23 @@ private:
 
     bool CopyTokens(std::uint64_t count)
     {
-        for (; count > 0; --count)
+        std::array<DeflateToken, 256> tokens;
+        while (count > 0)
         {
-            if (!TakeOld() || BytesOf(m_oldToken) > m_text.size() - m_made)
+            std::size_t const wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, tokens.size()));
+            std::size_t const taken = m_old.Next(tokens.data(), wanted);
+            std::size_t const bytes =
+                std::accumulate(tokens.begin(), tokens.begin() + static_cast<std::ptrdiff_t>(taken), std::size_t(0),
+                                [](std::size_t sum, DeflateToken token) { return sum + BytesOf(token); });
+            if (taken < wanted || bytes > m_text.size() - m_made)
             {
                 return false;
             }
-            Add(m_oldToken);
+            m_tokens.insert(m_tokens.end(), tokens.begin(), tokens.begin() + static_cast<std::ptrdiff_t>(taken));
+            m_oldToken = tokens[taken - 1];
+            m_oldMade += bytes;
+            m_made += bytes;
+            count -= taken;
         }
         return true;
     }
@@ -362,25 +384,21 @@ bool TokenReader::StartBlock()
     return hasCodes;
 }
 
-bool TokenReader::Next(DeflateToken& token)
+std::size_t TokenReader::Next(DeflateToken* tokens, std::size_t most)
 {
-    for (;;)
+    std::size_t taken = 0;
+    while (taken < most && (m_isInBlock || (!m_isLast && StartBlock())))
     {
-        if (!m_isInBlock && (m_isLast || !StartBlock()))
-        {
-            return false;
-        }
         bool isEnd = false;
-        if (!Next(token, isEnd))
-        {
-            return false;
-        }
+        std::size_t const now = m_codes->Read(m_bits, tokens + taken, most - taken, isEnd);
+        taken += now;
         m_isInBlock = !isEnd;
-        if (!isEnd)
+        if (now == 0 && !isEnd)
         {
-            return true;
+            break;
         }
     }
+    return taken;
 }
 
 std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters)

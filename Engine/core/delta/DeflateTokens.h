@@ -27,7 +27,9 @@ public:
     /// The next token of the block, or \a isEnd at its end. False for damaged data.
     [[nodiscard]] bool Next(DeflateToken& token, bool& isEnd) { return m_codes->Read(m_bits, token, isEnd); }
     /// The next token of all blocks. False at their end and for damaged data.
-    [[nodiscard]] bool Next(DeflateToken& token);
+    [[nodiscard]] bool Next(DeflateToken& token) { return Next(&token, 1) == 1; }
+    /// The next tokens of all blocks, at most \a most; fewer only before their end and before damaged data.
+    [[nodiscard]] std::size_t Next(DeflateToken* tokens, std::size_t most);
 
 private:
     BitReader m_bits;

@@ -50,6 +50,16 @@ std::size_t HeaderBytes(Bytes file)
     return end < file.size() ? end : 0;
 }
 
+/// The size of the text as the end of \a file tells it, or a guess if that is not likely.
+std::size_t FirstTextBytes(Bytes file)
+{
+    Bytes const last = file.substr(file.size() - 4);
+    std::size_t const told =
+        last[0] | std::size_t(last[1]) << 8 | std::size_t(last[2]) << 16 | std::size_t(last[3]) << 24;
+    std::size_t const guess = std::min(MAX_PACKED_TEXT_BYTES, file.size() * 4);
+    return told > 0 && told <= 4 * guess ? std::min(MAX_PACKED_TEXT_BYTES, told) : guess;
+}
+
 void CopyBits(BitReader& from, BitWriter& to, std::uint64_t count)
 {
     for (std::uint64_t left = count; left > 0;)
@@ -275,7 +285,7 @@ std::optional<ByteBuffer> UnpackText(Bytes file)
     int answer = Z_OK;
     while (answer == Z_OK && text.size() < MAX_PACKED_TEXT_BYTES)
     {
-        text.resize(std::min(MAX_PACKED_TEXT_BYTES, std::max(text.size() * 2, file.size() * 4)));
+        text.resize(text.empty() ? FirstTextBytes(file) : std::min(MAX_PACKED_TEXT_BYTES, text.size() * 2));
         stream.next_out = text.data() + stream.total_out;
         stream.avail_out = static_cast<uInt>(text.size() - stream.total_out);
         answer = inflate(&stream, Z_NO_FLUSH);

@@ -13,7 +13,7 @@ namespace
 
 /// The system maps this many bytes around a byte that is read.
 constexpr std::size_t BLOCK_BYTES = 64 * 1024;
-constexpr std::size_t MAX_RESIDENT_BYTES = std::size_t{16} << 20;
+constexpr std::size_t MAX_RESIDENT_BYTES = std::size_t{14} << 20;
 
 std::size_t BlocksOf(Bytes mapping)
 {

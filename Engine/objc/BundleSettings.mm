@@ -30,8 +30,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr long long MAX_FEED_BYTES = 1LL << 30;
-
 /// A check that begins while a record is being written must see it.
 LatestWriter<FeedRecord>& RecordWriter()
 {

@@ -4,9 +4,12 @@
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/ReleaseRules.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/Signer.h"
+
+#include <cstdlib>
 
 namespace Pelnar::Publisher
 {
@@ -31,6 +34,13 @@ QStringList MachinesOf(BundleTree const& bundle)
         }
     }
     return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines : QStringList();
+}
+
+/// As clients read the setting: an unusable value counts as the default.
+qint64 MaximumFeedBytesOf(Engine::BundleInformation const& information)
+{
+    qint64 const bytes = std::strtoll(information.maximumFeedBytes.c_str(), nullptr, 10);
+    return bytes < 1 || bytes > Engine::MAX_FEED_BYTES ? Engine::FetchLimits().maxBodyBytes : bytes;
 }
 
 } // namespace
@@ -81,6 +91,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     // On macOS another framework fetches the feed.
     version.bundle->requiresSignedFeed =
         information.requiresSignedFeed && version.HasClients() && version.platform == Engine::FeedPlatform::Linux;
+    version.bundle->maximumFeedBytes = MaximumFeedBytesOf(information);
     // With a root key, the feed's key statement says which keys clients trust, and it can change.
     if (information.rootPublicKey.empty())
     {
@@ -126,6 +137,20 @@ void CheckFeedSignature(GatedVersion const& version, FeedSignature signature)
         throw Refusal({version.path, u"its clients require a signed feed and would refuse this one"_s,
                        u"sign the feed with a key that they trust: use generate --sign-feed, or sign-feed"_s},
                       RefusalCause::Content);
+    }
+}
+
+void CheckFeedSize(GatedVersion const& version, qint64 feedBytes)
+{
+    bool const hasClientsHere = version.HasClients() && version.platform == Engine::FeedPlatform::Linux;
+    if (hasClientsHere && version.bundle && feedBytes > version.bundle->maximumFeedBytes)
+    {
+        throw Refusal(
+            {version.path,
+             u"its clients refuse the feed, because it has %1 bytes, and they accept at most %2"_s.arg(
+                 QString::number(feedBytes), QString::number(version.bundle->maximumFeedBytes)),
+             u"remove old items with \"prune\", or shorten the notes; in a new version, write a greater PelnarMaximumFeedBytes into its information file"_s},
+            RefusalCause::Content);
     }
 }
 

@@ -25,6 +25,7 @@ struct GatedBundle
     std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement declares valid
     Engine::TrustedKeys clientKeys = {};     ///< those that its clients believe
     bool requiresSignedFeed = false;
+    qint64 maximumFeedBytes = 0; ///< that its clients read
 };
 
 struct GatedVersion
@@ -68,6 +69,9 @@ enum class FeedSignature
 
 /// Throws Refusal if the clients of \a version require a signed feed, and \a signature is missing.
 void CheckFeedSignature(GatedVersion const& version, FeedSignature signature);
+
+/// Throws Refusal if a feed of \a feedBytes is too long for the clients of \a version.
+void CheckFeedSize(GatedVersion const& version, qint64 feedBytes);
 
 /// The version of \a item in the feed \a feedName. It is invalid if the item's version cannot be read.
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);

@@ -218,6 +218,7 @@ private:
         CheckFeedSignature(inside, Engine::VerifyFeed(m_request.feed, inside.bundle->clientKeys)
                                        ? FeedSignature::Present
                                        : FeedSignature::Missing);
+        m_refusals.Try([&] { CheckFeedSize(inside, m_request.feed.size()); });
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
         for (std::string const& key : inside.bundle->knownKeys)

@@ -281,6 +281,12 @@ void ArchiveIntake::WarnOfSettings(Engine::BundleInformation const& information,
                              Printable(QString::fromStdString(information.feedUrl))),
                          u"write an https address as SUFeedURL into the bundle's information file"_s);
     }
+    if (information.feedPlatform == "macos")
+    {
+        m_workplace.Warn(version.path,
+                         u"has PelnarFeedPlatform = macos, so its clients never get an update for Linux"_s,
+                         u"remove it from the bundle's information file"_s);
+    }
     if (information.disablesUpdates)
     {
         m_workplace.Warn(version.path, u"has PelnarUpdatesDisabled, so its clients never get another update"_s,

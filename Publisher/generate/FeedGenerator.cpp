@@ -197,6 +197,7 @@ public:
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
+        RefuseLongFeed(bytes.size());
         std::vector<LintFinding> const findings = LintAsPublished(bytes, m_address);
         RefuseNewErrors(m_feedFile,
                         m_isNew ? std::vector<LintFinding>() : LintAsPublished(m_published.bytes, m_address), findings);
@@ -232,7 +233,7 @@ private:
                                              : m_address.resolved(QUrl(u"."_s)).toString();
     }
 
-    std::vector<NewItem> TakeNew(PublishedFeed const& feed, std::vector<FolderArchive> const& archives) const
+    std::vector<NewItem> TakeNew(PublishedFeed const& feed, std::vector<FolderArchive> const& archives)
     {
         RefusalList refusals;
         PublishedArchives published(m_workplace, feed);
@@ -247,9 +248,20 @@ private:
             ArchiveIntake intake(m_workplace, feed, isSigned ? FeedSignature::Present : FeedSignature::Missing,
                                  published.Versions(refusals));
             items = intake.Take(fresh, refusals);
+            m_versions = intake.Versions();
         }
         refusals.ThrowIfAny();
         return items;
+    }
+
+    void RefuseLongFeed(qint64 feedBytes) const
+    {
+        RefusalList refusals;
+        for (GatedVersion const& version : m_versions)
+        {
+            refusals.Try([&] { CheckFeedSize(version, feedBytes); });
+        }
+        refusals.ThrowIfAny();
     }
 
     /// The feed with \a items, signed if needed.
@@ -355,6 +367,7 @@ private:
     QUrl const m_address;
     bool const m_isNew;
     FeedContent m_published;
+    std::vector<GatedVersion> m_versions;        ///< that read the new feed; known if one of them is new
     std::optional<Engine::FeedValidity> m_terms; ///< of the new signature
 };
 

@@ -85,6 +85,8 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     }
     information.rootPublicKey = list->TextOf("PelnarRootPublicEDKey").value_or("");
     information.feedUrl = list->TextOf("SUFeedURL").value_or("");
+    information.maximumFeedBytes = list->TextOf("PelnarMaximumFeedBytes").value_or("");
+    information.feedPlatform = list->TextOf("PelnarFeedPlatform").value_or("");
     information.purpose = PurposeOf(*list);
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
     information.allowsInsecureFeeds = IsTrue(list->TextOf("PelnarAllowsInsecureFeeds"));

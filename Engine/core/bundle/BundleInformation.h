@@ -29,6 +29,8 @@ struct BundleInformation
     TrustedKeys publicKeys;           ///< from SUPublicEDKey and PelnarNextPublicEDKey; none without the first
     std::string rootPublicKey;        ///< from PelnarRootPublicEDKey; empty if the bundle has none
     std::string feedUrl;              ///< from SUFeedURL; empty if the bundle has none
+    std::string maximumFeedBytes;     ///< from PelnarMaximumFeedBytes; empty if the bundle has none
+    std::string feedPlatform;         ///< from PelnarFeedPlatform; empty if the bundle has none
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;

@@ -13,6 +13,9 @@
 namespace Pelnar::Engine
 {
 
+/// The greatest limit that a bundle may set for the size of a feed.
+constexpr qint64 MAX_FEED_BYTES = qint64(1) << 30;
+
 /// How much a server may cost. The engine uses the defaults; tests scale them.
 struct FetchLimits
 {

@@ -292,8 +292,12 @@ TEST_F(CheckRelease, ContentThatNoClientNoticesIsNamed)
     text = Version("1.1");
     text.program = "#!/bin/sh\r\n";
     release.Add(text);
-    ExpectSaid(release.Check(), {"Test-1.0.zip: contains a private key", "\"Test.app/key\"",
-                                 "Test-1.1.zip: the program's first line ends"});
+    text = Version("1.2");
+    text.maximumFeedBytes = "100";
+    release.Add(text);
+    ExpectSaid(release.Check(),
+               {"Test-1.0.zip: contains a private key", "\"Test.app/key\"",
+                "Test-1.1.zip: the program's first line ends", "Test-1.2.zip: its clients refuse the feed"});
 }
 
 } // namespace Pelnar::Testing

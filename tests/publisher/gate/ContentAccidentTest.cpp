@@ -1,5 +1,5 @@
-// ContentAccidentTest.cpp: accidents in the content of a bundle that no client notices: a private key in it, or a
-// program that cannot start.
+// ContentAccidentTest.cpp: accidents in the content of a bundle that no client notices: a private key in it, a program
+// that cannot start, settings that strand its clients.
 
 #include "tests/publisher/gate/AccidentFixture.h"
 
@@ -226,6 +226,52 @@ TEST_F(ContentAccident, ProgramOfTheOtherByteOrderAndOf32BitsIsCut)
     text.program = program;
     m_folder.PutBundle(text);
     EXPECT_EQ(Generate({QStringLiteral("--machine"), QStringLiteral("s390x")}).status, 0);
+}
+
+TEST_F(ContentAccident, FeedIsTooLongForItsClients)
+{
+    BundleText text = Version("2.0");
+    text.maximumFeedBytes = "200";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: its clients refuse the feed, because it has ",
+                               " bytes, and they accept at most 200", "PelnarMaximumFeedBytes"});
+    // The clients read these values as their default.
+    int minor = 0;
+    for (char const* const unusable : {"0", "-5", "many", "2000000000", "9999999999999999999999"})
+    {
+        BundleText other = Version("2." + std::to_string(++minor));
+        other.maximumFeedBytes = unusable;
+        m_folder.PutBundle(other);
+    }
+    m_folder.Remove("Test-2.0.zip");
+    Publish();
+}
+
+TEST_F(ContentAccident, FeedGrowsBeyondWhatAnOlderVersionAccepts)
+{
+    BundleText text = Version("1.0");
+    text.maximumFeedBytes = "1200";
+    m_folder.PutBundle(text);
+    Publish();
+    m_folder.PutVersion("2.0");
+    m_folder.Put("Test-2.0.txt", std::string(1200, 'n'));
+    ExpectRefused(Generate(), {"Test-1.0.zip: its clients refuse the feed", "at most 1200", "remove old items"});
+}
+
+TEST_F(ContentAccident, BundleAsksForTheItemsOfAnotherPlatform)
+{
+    BundleText text = Version("2.0");
+    text.feedPlatform = "macos";
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.Generate();
+    EXPECT_NE(
+        run.err.find("Test-2.0.zip: has PelnarFeedPlatform = macos, so its clients never get an update for Linux"),
+        std::string::npos)
+        << run.err;
+    text = Version("2.1");
+    text.feedPlatform = "linux";
+    m_folder.PutBundle(text);
+    EXPECT_EQ(m_folder.Generate().err.find("PelnarFeedPlatform"), std::string::npos);
 }
 
 } // namespace Pelnar::Testing

@@ -43,6 +43,8 @@ std::string PropertyListOf(BundleText const& text)
     add("PelnarRequiresSignedFeed", text.requiresSignedFeed);
     add("SUFeedURL", text.feedUrl);
     add("PelnarUpdatesDisabled", text.disablesUpdates);
+    add("PelnarMaximumFeedBytes", text.maximumFeedBytes);
+    add("PelnarFeedPlatform", text.feedPlatform);
     return list + "</dict></plist>\n";
 }
 

@@ -31,6 +31,8 @@ struct BundleText
     std::string requiresSignedFeed = {};
     std::string feedUrl = {};
     std::string disablesUpdates = {};
+    std::string maximumFeedBytes = {};
+    std::string feedPlatform = {};
     std::string program = {}; ///< the program's bytes; empty: a script
     std::uint32_t programMode = 0755;
 };

@@ -32,7 +32,7 @@ char const* SeverityName(Severity severity);
     RULE(TooMuchMarkup, "too-much-markup", Error, "The feed has more elements and attributes than clients read.", "keep at most 100000 of both together; remove old items") \
     RULE(TooManyItems, "too-many-items", Error, "The feed has more items than clients read.", "keep at most 2000 items") \
     RULE(TooManyNamespaces, "too-many-namespaces", Error, "More namespaces are declared at one place than clients follow.", "declare each namespace once, on the root element") \
-    RULE(NotAFeed, "not-a-feed", Error, "The document is a web page, or of another kind than a feed.", "publish the feed itself at this address") \
+    RULE(NotAFeed, "not-a-feed", Error, "The document is a web page, the error of a server, or of another known kind.", "publish the feed itself at this address") \
     RULE(NoItems, "no-items", Warning, "The feed has no item.", "add an <item> inside <channel>, without a namespace") \
     RULE(ControlCharacter, "control-character", Warning, "A text has control characters, invisible characters, or characters that change how others are displayed; clients show blanks instead.", "remove them") \
     /* Names and namespaces. */ \

@@ -144,9 +144,9 @@ TEST(FeedDocument, WithoutItemsIsAnEmptyFeed)
 
 TEST(FeedDocument, OtherDocumentIsNotAnEmptyFeed)
 {
-    for (char const* bytes : {"<Error><Code>AccessDenied</Code></Error>", "<cores><core id='a'/></cores>",
+    for (char const* bytes : {"<Error><Code>AccessDenied</Code></Error>", "<error/>", "<sitemapindex/>",
                               "<feed xmlns='http://www.w3.org/2005/Atom'><entry/></feed>", "<svg><rss/></svg>",
-                              "<urlset><url><loc>x</loc></url></urlset>", "<x:item xmlns:x='u'/>"})
+                              "<urlset><url><loc>x</loc></url></urlset>"})
     {
         FeedParseResult const result = Parse(bytes);
         EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedIsOtherDocument)) << bytes;
@@ -154,6 +154,17 @@ TEST(FeedDocument, OtherDocumentIsNotAnEmptyFeed)
     FeedParseResult const result = Parse("<?xml version='1.0'?>\n<!-- a -->\n<Error>\n</Error>");
     EXPECT_EQ(result.error().line, 3);
     EXPECT_EQ(Text(result.error().sentence.English()), "Line 3 of the feed begins a document that is not a feed.");
+}
+
+TEST(FeedDocument, UnknownDocumentWithoutAnItemIsAnEmptyFeed)
+{
+    for (char const* bytes :
+         {"<programs><program id='a'/></programs>", "<rss/>", "<channel/>", "<x:item xmlns:x='u'/>", "<a><Error/></a>"})
+    {
+        FeedParseResult const result = Parse(bytes);
+        ASSERT_TRUE(result.has_value()) << bytes;
+        EXPECT_TRUE(result->items.empty()) << bytes;
+    }
 }
 
 TEST(FeedDocument, WebPageIsNotAFeed)

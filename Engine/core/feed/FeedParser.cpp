@@ -37,10 +37,11 @@ bool IsWebPage(QXmlStreamReader const& reader)
     return reader.name().compare(QLatin1String("html"), Qt::CaseInsensitive) == 0;
 }
 
-/// True for the first element of RSS in any form.
-bool BeginsFeed(QXmlStreamReader const& reader)
+/// True for the first element of a server's error, an Atom feed, a picture or a map of a web site. Other documents
+/// without an item are empty feeds.
+bool BeginsOtherDocument(QXmlStreamReader const& reader)
 {
-    for (char const* const name : {"rss", "RDF", "channel"})
+    for (char const* const name : {"Error", "feed", "svg", "urlset", "sitemapindex"})
     {
         if (reader.name().compare(QLatin1String(name), Qt::CaseInsensitive) == 0)
         {
@@ -118,7 +119,7 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         QXmlStreamReader::TokenType const token = walker.Advance();
         if (token == QXmlStreamReader::EndDocument && met == 0 && otherDocument)
         {
-            // "No update" would be wrong: a server's error or a network's page arrived instead of the feed.
+            // "No update" would be wrong: this arrived instead of the feed.
             walker.Refuse(*std::move(otherDocument));
         }
         if (token == QXmlStreamReader::Invalid || token == QXmlStreamReader::EndDocument)
@@ -130,7 +131,7 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         {
             continue;
         }
-        if (walker.Depth() == 1 && !BeginsFeed(walker.Reader()))
+        if (walker.Depth() == 1 && BeginsOtherDocument(walker.Reader()))
         {
             otherDocument = MakeParseError(ErrorCause::FeedIsOtherDocument, walker.Line(), walker.Column(), 0);
         }

@@ -12,7 +12,7 @@ namespace Pelnar::Installer
 struct Recovery
 {
     Engine::RecoveryAction action = Engine::RecoveryAction::Nothing;
-    std::string failedVersion; ///< rolled back earlier to the version that asks; empty if there is none
+    std::string failedVersion; ///< rolled back earlier to the version that asks; empty without a rollback
 };
 
 /// Does what \a job requests. A job without a version means that no version runs. May be interrupted at any point and

@@ -13,7 +13,7 @@ namespace Pelnar::Installer
 /// The version of the bundle \a name in the folder; empty if it cannot be read.
 std::optional<std::string> VersionOf(int folderFd, std::string const& name);
 
-/// The journal of \a targetName; empty if there is none, or it is invalid.
+/// The journal of \a targetName; empty if it is missing or invalid.
 std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string const& targetName);
 /// Throws UpdateRefusal. REQUIRES: the swap lock.
 void WriteSwapJournal(int parentFd, std::string const& targetName, Engine::SwapJournal const& journal);

@@ -66,8 +66,8 @@ private:
     struct sigaction m_previous;
 };
 
-/// The lock file. It is created if there is none that only this user may open. Its number of names does not matter: no
-/// other user can open it under any name.
+/// The lock file, which only this user may open; it is created if it is missing. Its number of names does not
+/// matter: no other user can open it under any name.
 UniqueFd OpenLockFile(int parentFd, std::string const& name)
 {
     for (int attempt = 0; attempt < MAX_FOREIGN_FILES; ++attempt)

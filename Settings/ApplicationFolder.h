@@ -30,7 +30,7 @@ std::string ApplicationFolderName(QString const& bundleIdentifier);
 /// One of an application's folders. It may be missing.
 struct ApplicationFolder
 {
-    std::string base; ///< absolute; empty if there is none
+    std::string base; ///< absolute; empty if the environment names no folder
     std::string name;
 
     std::string Path() const { return base + '/' + name; }

@@ -33,7 +33,7 @@ constexpr std::array TRANSLATIONS = {
     Translation{QLocale::Chinese, "zh_CN"},
 };
 
-/// The translation of one language; empty if there is none. Brazilian Portuguese serves all Portuguese; simplified
+/// The translation of one language; empty if it is missing. Brazilian Portuguese serves all Portuguese; simplified
 /// Chinese does not serve traditional Chinese.
 QString NameFor(QLocale const& language)
 {

@@ -27,7 +27,7 @@ PELNAR_EXPORT void SetOSVersion(QString const& version);
 PELNAR_EXPORT QString AllComponentsOf(QOperatingSystemVersion const& version);
 
 /// The value of VERSION_ID in \a osRelease, the content of an os-release file. Quotes and escapes are resolved, and the
-/// last assignment counts. Empty if there is none.
+/// last assignment counts. Empty without an assignment.
 PELNAR_EXPORT QString VersionIdOf(QByteArray const& osRelease);
 
 /// VersionIdOf the first of \a paths that can be read; empty if none can be read.

@@ -16,9 +16,9 @@ public:
     /// Throws std::runtime_error if \a iniPath cannot be read or is not an ini file.
     explicit SettingsFile(QString const& iniPath);
 
-    /// The value without surrounding blanks; empty if there is none.
+    /// The value without surrounding blanks; empty if the key is missing.
     QString Text(QString const& section, QString const& key) const;
-    /// The same, but throws std::runtime_error if there is none.
+    /// The same, but throws std::runtime_error if the key is missing.
     QString RequiredText(QString const& section, QString const& key) const;
     /// The name of a key in messages: the file, the section and the key.
     std::string Describe(QString const& section, QString const& key) const;

@@ -9,7 +9,7 @@ namespace Pelnar::Util
 namespace
 {
 
-/// Reads a decimal component of at most 2147483647 at \a position and moves past it; -1 if there is none.
+/// Reads a decimal component of at most 2147483647 at \a position and moves past it; -1 if no digit stands there.
 std::int32_t ReadComponent(QChar const*& position, QChar const* end) noexcept
 {
     std::int64_t value = -1;

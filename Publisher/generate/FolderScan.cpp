@@ -78,7 +78,7 @@ std::optional<FolderArchive> Classify(QString const& name)
                          : std::optional<FolderArchive>();
 }
 
-/// The line of the first character of \a text that XML does not allow; 0 if there is none.
+/// The line of the first character of \a text that XML does not allow; 0 if XML allows all.
 int LineOfBadCharacter(QString const& text)
 {
     int line = 1;

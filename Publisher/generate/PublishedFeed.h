@@ -37,7 +37,7 @@ public:
 
     QString const& Name() const { return m_name; }
     std::vector<PublishedItem> const& Items() const { return m_items; }
-    /// The prefix that is bound to the feed's namespace at every place for an item; empty if there is none.
+    /// The prefix that is bound to the feed's namespace at every place for an item; empty without a common one.
     QString const& FeedPrefix() const { return m_feedPrefix; }
     /// The blanks before the tags of items.
     QString Indentation() const;

@@ -83,7 +83,7 @@ std::vector<XmlElement const*> ChannelsIn(XmlElement const& document)
     return channels;
 }
 
-/// The only element with the name \a term in \a channels; null if there is none. Throws Refusal if it cannot be
+/// The only element with the name \a term in \a channels; null if no element has it. Throws Refusal if it cannot be
 /// replaced.
 XmlElement const* FindTerm(QString const& name, std::vector<XmlElement const*> const& channels, char const* term)
 {

@@ -171,7 +171,7 @@ std::size_t FieldScanner::SkipBlocks(std::size_t begin)
     return begin;
 }
 
-/// The end of the field after \a opening; 0 if there is none.
+/// The end of the field after \a opening; 0 if no field follows.
 std::size_t FieldScanner::EndOfX86Field(std::size_t opening) const
 {
     if (opening + 5 > m_regionEnd)
@@ -203,7 +203,7 @@ bool FieldScanner::IsFree(std::size_t position)
     {
         return isAlone;
     }
-    // Back to a place that no field covers, whatever comes before it.
+    // Back to a place that no field covers. The bytes before it do not matter.
     std::size_t begin = position;
     for (std::size_t at = begin; at > m_position && begin - at < REACH;)
     {

@@ -23,7 +23,7 @@ struct TransferEnd
     TransferStage stage = TransferStage::Connecting;
     int systemError = 0;       ///< errno of the last failed call
     long certificateError = 0; ///< OpenSSL's number; 0 for a certificate that was accepted or not received
-    long proxyStatus = 0;      ///< status of a proxy's answer to the request for a tunnel; 0 if there is none
+    long proxyStatus = 0;      ///< status of a proxy's answer to the request for a tunnel; 0 without an answer
     long proxyError = 0;       ///< CURLproxycode
     bool hasProxy = false;
     QString text; ///< libcurl's own text

@@ -24,7 +24,7 @@ enum class FolderSafety
 struct FolderFinding
 {
     FolderSafety safety = FolderSafety::Safe;
-    std::string path; ///< of that folder; empty if there is none, or its path cannot be read
+    std::string path; ///< of that folder; empty if all folders are safe, or if the path cannot be read
     id_t writer = 0;  ///< for OpenToGroup the group, for OpenToUser the user
 };
 

@@ -25,14 +25,14 @@ QDateTime TimeOf(InstallRecord const& record)
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(record.secondsSinceEpoch), Qt::UTC);
 }
 
-/// The bundle's path without any link; empty if there is none.
+/// The bundle's path without any link; empty if the bundle is missing.
 std::string RealPath(QString const& bundlePath)
 {
     std::unique_ptr<char, decltype(&::free)> const path(::realpath(PathBytes(bundlePath).c_str(), nullptr), &::free);
     return path ? path.get() : std::string();
 }
 
-/// Empty if there is none, or if it cannot be read.
+/// Empty if the note is missing or cannot be read.
 std::string ReadNoteIn(QString const& folder, std::string const& name)
 {
     try

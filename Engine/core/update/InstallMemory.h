@@ -31,7 +31,7 @@ public:
     /// The failure of the last installation that left this version in place; empty otherwise. It has no attempts if
     /// this one was no attempt.
     std::optional<InstallRecord> const& Failure() const { return m_failure; }
-    /// The failure, or the rollback, of which the application has not heard; null if there is none.
+    /// The failure or the rollback that the application has not heard of; null if it has heard of all.
     InstallRecord const* News() const;
     /// The application has heard of the News().
     void SetHeard();

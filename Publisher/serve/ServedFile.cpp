@@ -18,6 +18,8 @@ namespace
 {
 
 constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
+/// Of a folder: others may open the files whose names they know.
+constexpr mode_t ENTERED_BY_OTHERS = S_IXGRP | S_IXOTH;
 /// A larger file is an archive and not a private key.
 constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
 /// The lengths of a signing key: the seed, or the seed with the public key.
@@ -29,7 +31,7 @@ bool HasDottedName(QString const& path)
     return std::any_of(names.begin(), names.end(), [](QString const& name) { return name.startsWith(u'.'); });
 }
 
-/// True if a folder on the way to \a path can be listed by its owner only.
+/// True if a folder on the way to \a path can be entered by its owner only.
 bool IsInPrivateFolder(int folderFd, QString const& path)
 {
     for (int end = path.indexOf(u'/'); end >= 0; end = path.indexOf(u'/', end + 1))
@@ -37,7 +39,7 @@ bool IsInPrivateFolder(int folderFd, QString const& path)
         struct stat status;
         QByteArray const folder = QFile::encodeName(path.left(end));
         if (end > 0 && ::fstatat(folderFd, folder.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-            (status.st_mode & READ_BY_OTHERS) == 0)
+            (status.st_mode & ENTERED_BY_OTHERS) == 0)
         {
             return true;
         }

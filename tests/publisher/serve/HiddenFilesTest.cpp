@@ -43,6 +43,8 @@ TEST_F(Serve, WhatAPublisherKeepsForItselfIsHidden)
         {"owner-runs.xml", "x", 0711, false, "only its owner may read it"},
         {"private/app.zip", "x", 0644, false, "only its owner may read it"},
         {"private/deeper/app.zip", "x", 0644, false, "only its owner may read it"},
+        {"listed by all/app.zip", "x", 0644, false, "only its owner may read it"},
+        {"listed by its owner/app.zip", "x", 0644, true, ""},
         {"app.key", "x", 0644, false, "it is a private key"},
         {"App.KEY", "x", 0644, false, "it is a private key"},
         {"identity.p12", "x", 0644, false, "it is a private key"},
@@ -74,6 +76,8 @@ TEST_F(Serve, WhatAPublisherKeepsForItselfIsHidden)
     m_folder.Put({{"inner", 'd', {}, 0755},
                   {".git", 'd', {}, 0755},
                   {"private", 'd', {}, 0700},
+                  {"listed by all", 'd', {}, 0744},
+                  {"listed by its owner", 'd', {}, 0711},
                   {"private/deeper", 'd', {}, 0755}});
     for (Row const& row : rows)
     {

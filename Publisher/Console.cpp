@@ -69,6 +69,11 @@ ExitStatus Console::Refuse(Problem const& problem) const
     return ExitStatus::Unusable;
 }
 
+void Console::Warn(Problem const& problem) const
+{
+    err.stream << err.Styled(Emphasis::Warning, u"warning: "_s) << TextOf(problem).toStdString() << '\n';
+}
+
 void Console::Print(QString const& line) const
 {
     out.stream << Printable(line).toStdString() << '\n';

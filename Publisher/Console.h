@@ -81,6 +81,8 @@ struct Console
     /// Prints \a problem for a person.
     /// \return ExitStatus::Unusable
     ExitStatus Refuse(Problem const& problem) const;
+    /// Prints \a problem, which does not prevent the work.
+    void Warn(Problem const& problem) const;
     /// Prints \a line, made printable, and ends it.
     void Print(QString const& line) const;
     void Print(QStringList const& lines) const;

@@ -4,6 +4,7 @@
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/Signer.h"
+#include "Publisher/signfeed/FeedSigner.h"
 
 #include <QJsonArray>
 
@@ -92,12 +93,26 @@ void AddKeyStatementOption(CLI::App& verb, std::string& file)
         ->type_name("FILE");
 }
 
-void AddValidForOption(CLI::App& verb, int& days)
+void AddSigningOptions(CLI::App& verb, SigningTerms& terms)
 {
-    verb.add_option("--valid-for", days, "Days until the signature expires; sign the feed again before that")
+    verb.add_option("--valid-for", terms.validDays, "Days until the signature expires; sign the feed again before that")
         ->type_name("DAYS")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();
+    // As text: CLI11 would reduce the number to the greatest one that fits.
+    verb.add_option_function<std::string>(
+            "--serial",
+            [&serial = terms.serial](std::string const& text)
+            { serial = Engine::FeedSerial(QString::fromStdString(text)); },
+            "Serial number, greater than that of the published feed; default: the next one, or the seconds since 1970 "
+            "if that is greater. With it, a date of the feed that is far from this computer's clock is accepted")
+        ->type_name("NUMBER")
+        ->check(
+            [](std::string const& text)
+            {
+                bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
+                return isSerial ? std::string() : text + " is not a number from 1 to 9223372036854775807";
+            });
 }
 
 void AddEffortOption(CLI::App& verb, Engine::DeltaEffort& effort)

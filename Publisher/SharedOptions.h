@@ -19,6 +19,8 @@
 namespace Pelnar::Publisher
 {
 
+struct SigningTerms;
+
 /// The installations of a command line, without their versions and systems.
 struct InstallationOptions
 {
@@ -59,8 +61,8 @@ CLI::Option& AddKeysOption(CLI::App& verb, char const* name, std::vector<std::st
 std::string FaultOfKey(std::string const& text);
 /// "--key-statement", the name of a file.
 void AddKeyStatementOption(CLI::App& verb, std::string& file);
-/// "--valid-for"; \a days contains the default.
-void AddValidForOption(CLI::App& verb, int& days);
+/// "--valid-for" and "--serial"; \a terms contain the defaults.
+void AddSigningOptions(CLI::App& verb, SigningTerms& terms);
 /// "--effort"; \a effort contains the default.
 void AddEffortOption(CLI::App& verb, Engine::DeltaEffort& effort);
 

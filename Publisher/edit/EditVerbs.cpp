@@ -4,8 +4,8 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/SharedOptions.h"
 #include "Publisher/edit/FeedEdits.h"
-#include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
+#include "Publisher/gate/FeedLength.h"
 #include "Publisher/keys/Signer.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
@@ -27,7 +27,7 @@ struct EditOptions
     std::string notes;
     int keptVersions = 0;
     SignerOptions signer;
-    int validDays = SigningTerms().validDays;
+    SigningTerms terms;
     bool isDryRun = false;
 };
 
@@ -39,12 +39,18 @@ bool HasSignature(QByteArray const& bytes)
 }
 
 /// Writes \a edited, signed by \a signer unless it is null.
-void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigner const* signer, int validDays,
-           Console const& console)
+void Store(NewFeed edited, bool wasSigned, ISigner const* signer, EditOptions const& options, Console const& console)
 {
+    QString const name = edited.file;
+    if (options.isDryRun)
+    {
+        CheckFeedLength(edited, console);
+        console.Print(u"%1: not written, because this is a dry run"_s.arg(name));
+        return;
+    }
     if (!signer)
     {
-        ReplaceFile(name, edited);
+        ReplaceFeed(edited, console);
         if (wasSigned)
         {
             console.Print(
@@ -53,8 +59,9 @@ void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigne
         }
         return;
     }
-    SignedFeedBytes const feed = SignFeed(name, edited, *signer, {{}, validDays, QDateTime::currentDateTimeUtc()});
-    ReplaceFile(name, feed.bytes);
+    SignedFeedBytes const feed = SignFeed(name, edited.bytes, *signer, options.terms);
+    edited.bytes = feed.bytes;
+    ReplaceFeed(edited, console);
     console.Print(u"%1: %2"_s.arg(name, TextOf(feed.terms)));
 }
 
@@ -63,6 +70,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     QString const name = QString::fromStdString(options.feed);
     FolderLock const lock(QFileInfo(name).absolutePath(), console);
     QByteArray bytes = ReadFeedFile(name);
+    qint64 const bytesBefore = bytes.size();
     bool const wasSigned = HasSignature(bytes);
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     if (signer)
@@ -78,12 +86,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
         return ExitStatus::Clean;
     }
     FeedEdit const proof(name, feed.Text().Bytes());
-    if (options.isDryRun)
-    {
-        console.Print(u"%1: not written, because this is a dry run"_s.arg(name));
-        return ExitStatus::Clean;
-    }
-    Store(name, feed.Text().Bytes(), wasSigned, signer.get(), options.validDays, console);
+    Store({name, QFileInfo(name).path(), feed.Text().Bytes(), bytesBefore}, wasSigned, signer.get(), options, console);
     return ExitStatus::Clean;
 }
 
@@ -96,7 +99,7 @@ NewVerb<EditOptions> AddEdit(CLI::App& program, VerbContext& context, char const
     verb.add_flag("--dry-run", options.isDryRun, "Show the changes, and write nothing");
     AddSignerOptions(verb, options.signer,
                      ": sign the changed feed. Without it a signed feed must be signed again afterwards");
-    AddValidForOption(verb, options.validDays);
+    AddSigningOptions(verb, options.terms);
     return {verb, options};
 }
 

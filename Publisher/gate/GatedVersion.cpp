@@ -36,13 +36,6 @@ QStringList MachinesOf(BundleTree const& bundle)
     return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines : QStringList();
 }
 
-/// As clients read the setting: an unusable value counts as the default.
-qint64 MaximumFeedBytesOf(Engine::BundleInformation const& information)
-{
-    qint64 const bytes = std::strtoll(information.maximumFeedBytes.c_str(), nullptr, 10);
-    return bytes < 1 || bytes > Engine::MAX_FEED_BYTES ? Engine::FetchLimits().maxBodyBytes : bytes;
-}
-
 } // namespace
 
 Engine::KeyedVersion KeysOf(GatedVersion const& version)
@@ -140,15 +133,21 @@ void CheckFeedSignature(GatedVersion const& version, FeedSignature signature)
     }
 }
 
-void CheckFeedSize(GatedVersion const& version, qint64 feedBytes)
+// As clients read the setting: an unusable value counts as the default.
+qint64 MaximumFeedBytesOf(Engine::BundleInformation const& information)
 {
-    bool const hasClientsHere = version.HasClients() && version.platform == Engine::FeedPlatform::Linux;
-    if (hasClientsHere && version.bundle && feedBytes > version.bundle->maximumFeedBytes)
+    qint64 const bytes = std::strtoll(information.maximumFeedBytes.c_str(), nullptr, 10);
+    return bytes < 1 || bytes > Engine::MAX_FEED_BYTES ? Engine::FetchLimits().maxBodyBytes : bytes;
+}
+
+void CheckFeedSize(QString const& path, qint64 maximumBytes, qint64 feedBytes)
+{
+    if (feedBytes > maximumBytes)
     {
         throw Refusal(
-            {version.path,
+            {path,
              u"its clients refuse the feed, because it has %1 bytes, and they accept at most %2"_s.arg(
-                 QString::number(feedBytes), QString::number(version.bundle->maximumFeedBytes)),
+                 QString::number(feedBytes), QString::number(maximumBytes)),
              u"remove old items with \"prune\", or shorten the notes; in a new version, write a greater PelnarMaximumFeedBytes into its information file"_s},
             RefusalCause::Content);
     }

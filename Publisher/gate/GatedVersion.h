@@ -70,8 +70,12 @@ enum class FeedSignature
 /// Throws Refusal if the clients of \a version require a signed feed, and \a signature is missing.
 void CheckFeedSignature(GatedVersion const& version, FeedSignature signature);
 
-/// Throws Refusal if a feed of \a feedBytes is too long for the clients of \a version.
-void CheckFeedSize(GatedVersion const& version, qint64 feedBytes);
+/// The longest feed that clients with this information file accept.
+qint64 MaximumFeedBytesOf(Engine::BundleInformation const& information);
+
+/// Throws Refusal if a feed of \a feedBytes is longer than \a maximumBytes, which the clients of the version in the
+/// archive \a path accept.
+void CheckFeedSize(QString const& path, qint64 maximumBytes, qint64 feedBytes);
 
 /// The version of \a item in the feed \a feedName. It is invalid if the item's version cannot be read.
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);

@@ -218,7 +218,10 @@ private:
         CheckFeedSignature(inside, Engine::VerifyFeed(m_request.feed, inside.bundle->clientKeys)
                                        ? FeedSignature::Present
                                        : FeedSignature::Missing);
-        m_refusals.Try([&] { CheckFeedSize(inside, m_request.feed.size()); });
+        if (inside.HasClients() && inside.platform == FeedPlatform::Linux)
+        {
+            m_refusals.Try([&] { CheckFeedSize(inside.path, inside.bundle->maximumFeedBytes, m_request.feed.size()); });
+        }
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
         for (std::string const& key : inside.bundle->knownKeys)

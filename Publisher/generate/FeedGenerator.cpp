@@ -4,6 +4,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
+#include "Publisher/gate/FeedLength.h"
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/generate/PublishedArchives.h"
@@ -197,7 +198,10 @@ public:
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
-        RefuseLongFeed(bytes.size());
+        AsContent(
+            [&] {
+                CheckFeedLength({m_feedFile, m_workplace.folder, bytes, m_published.bytes.size()}, m_console);
+            });
         std::vector<LintFinding> const findings = LintAsPublished(bytes, m_address);
         RefuseNewErrors(m_feedFile,
                         m_isNew ? std::vector<LintFinding>() : LintAsPublished(m_published.bytes, m_address), findings);
@@ -248,20 +252,9 @@ private:
             ArchiveIntake intake(m_workplace, feed, isSigned ? FeedSignature::Present : FeedSignature::Missing,
                                  published.Versions(refusals));
             items = intake.Take(fresh, refusals);
-            m_versions = intake.Versions();
         }
         refusals.ThrowIfAny();
         return items;
-    }
-
-    void RefuseLongFeed(qint64 feedBytes) const
-    {
-        RefusalList refusals;
-        for (GatedVersion const& version : m_versions)
-        {
-            refusals.Try([&] { CheckFeedSize(version, feedBytes); });
-        }
-        refusals.ThrowIfAny();
     }
 
     /// The feed with \a items, signed if needed.
@@ -277,8 +270,7 @@ private:
         {
             return bytes;
         }
-        SignedFeedBytes signedFeed =
-            SignFeed(m_feedFile, bytes, m_key, {{}, m_request.validDays, QDateTime::currentDateTimeUtc()});
+        SignedFeedBytes signedFeed = SignFeed(m_feedFile, bytes, m_key, m_request.terms);
         m_terms = signedFeed.terms;
         return signedFeed.bytes;
     }
@@ -367,7 +359,6 @@ private:
     QUrl const m_address;
     bool const m_isNew;
     FeedContent m_published;
-    std::vector<GatedVersion> m_versions;        ///< that read the new feed; known if one of them is new
     std::optional<Engine::FeedValidity> m_terms; ///< of the new signature
 };
 

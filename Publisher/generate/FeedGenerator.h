@@ -5,7 +5,7 @@
 
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Publisher/Console.h"
-#include "Publisher/keys/Signer.h"
+#include "Publisher/signfeed/FeedSigner.h"
 
 #include <string>
 #include <vector>
@@ -31,7 +31,7 @@ struct GenerateRequest
     std::string keyStatementFile; ///< of the line that is added to the feed; empty for none
     bool isRecompressed = false;  ///< new bundles are packed a second time
     bool isFeedSigned = false;    ///< a feed that has a signature is always signed again
-    int validDays = 30;           ///< until the feed's signature expires
+    SigningTerms terms;           ///< of the feed's signature
 };
 
 /// Writes the feed if there is a new item, and prints the findings of the strictest lint; a finding gives

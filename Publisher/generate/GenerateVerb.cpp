@@ -54,7 +54,7 @@ void AddGenerate(CLI::App& program, VerbContext& context)
     AddKeyStatementOption(verb, request.keyStatementFile);
     verb.add_flag("--sign-feed", request.isFeedSigned,
                   "Also sign the feed itself. A feed that has a signature is always signed again if it changes");
-    AddValidForOption(verb, request.validDays);
+    AddSigningOptions(verb, request.terms);
 }
 
 } // namespace Pelnar::Publisher

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ostream>
 
 namespace Pelnar::Publisher
 {
@@ -80,8 +79,7 @@ ArchiveSignature Workplace::Sign(InputFile const& archive) const
 
 void Workplace::Warn(QString const& path, QString const& what, QString const& mend) const
 {
-    console.err.stream << console.err.Styled(Emphasis::Warning, u"warning: "_s)
-                       << TextOf({path, what, mend}).toStdString() << '\n';
+    console.Warn({path, what, mend});
 }
 
 QString Workplace::KeyId() const

@@ -5,6 +5,7 @@
 #include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FeedText.h"
+#include "Publisher/signfeed/SigningClock.h"
 
 #include <algorithm>
 #include <limits>
@@ -19,10 +20,9 @@ int LineOf(QByteArray const& bytes, int offset)
     return 1 + int(std::count(bytes.begin(), bytes.begin() + std::max(offset, 0), '\n'));
 }
 
-Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
+Engine::FeedContent ReadAsClient(QString const& name, QByteArray const& content)
 {
-    return ParseAsClient(name, content, {}, Engine::FeedPlatform::Linux, u"correct the feed; clients cannot read it"_s)
-        .channel;
+    return ParseAsClient(name, content, {}, Engine::FeedPlatform::Linux, u"correct the feed; clients cannot read it"_s);
 }
 
 /// A time in the form that clients read.
@@ -37,9 +37,10 @@ qint64 PublishedSerial(Engine::FeedChannel const& channel)
     return channel.serials.size() == 1 ? Engine::FeedSerial(channel.serials.front()) : 0;
 }
 
-qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, SigningTerms const& terms)
+qint64 NextSerial(QString const& name, Engine::FeedContent const& content, SigningTerms const& terms,
+                  QDateTime const& now)
 {
-    qint64 const published = PublishedSerial(channel);
+    qint64 const published = PublishedSerial(content.channel);
     if (terms.serial && *terms.serial <= published)
     {
         throw Refusal({name, u"already has the serial %1, and the new one must be greater"_s.arg(published),
@@ -51,20 +52,10 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
             {name, u"has the greatest possible serial"_s,
              u"clients accept another feed only once a key statement revokes the key that signed this one"_s});
     }
-    // Without the option, a serial is the current time. If the clock was set back, the expiry would already have
-    // passed.
-    constexpr qint64 A_DAY = 86400;
-    constexpr qint64 LAST_TIME = 4102444800; // of the year 2100; a greater number is not a time
-    if (!terms.serial && published > terms.now.toSecsSinceEpoch() + A_DAY && published < LAST_TIME)
-    {
-        throw Refusal({name,
-                       u"was signed at %1 according to its serial, but this computer's clock says %2"_s.arg(
-                           MomentText(QDateTime::fromSecsSinceEpoch(published, Qt::UTC)), MomentText(terms.now)),
-                       u"set the clock, or give sign-feed a --serial"_s});
-    }
+    CheckClock(name, content, {published, terms.serial.has_value()}, now);
     // At least the current time, so that a feed that is made again from nothing has a higher serial than the published
     // one.
-    return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
+    return terms.serial ? *terms.serial : std::max(published + 1, now.toSecsSinceEpoch());
 }
 
 std::vector<XmlElement const*> ChannelsIn(XmlElement const& document)
@@ -226,9 +217,10 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QString con
 
 SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms)
 {
+    QDateTime const now = QDateTime::currentDateTimeUtc();
     SignedFeedBytes result;
-    result.terms.serial = NextSerial(name, ReadChannel(name, content), terms);
-    result.terms.expires = terms.now.addDays(terms.validDays);
+    result.terms.serial = NextSerial(name, ReadAsClient(name, content), terms, now);
+    result.terms.expires = now.addDays(terms.validDays);
     result.bytes = WithTerms(name, content, result.terms);
     if (!result.bytes.endsWith('\n'))
     {
@@ -238,7 +230,7 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
 
     // With the code of clients.
     auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
-    if (!verified || !Engine::ReadFeedValidity(ReadChannel(name, *verified)))
+    if (!verified || !Engine::ReadFeedValidity(ReadAsClient(name, *verified).channel))
     {
         throw Refusal({name, u"clients would not accept the signature"_s,
                        u"remove text that looks like a signature from the feed"_s});

@@ -28,7 +28,6 @@ struct SigningTerms
 {
     std::optional<qint64> serial; ///< greater than the present one; without it, one that is certainly greater
     int validDays = 30;
-    QDateTime now; ///< in UTC
 };
 
 struct SignedFeedBytes
@@ -48,7 +47,7 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
 QByteArray WithKeyStatement(QString const& name, QByteArray content, QString const& statementFile, ISigner const& key);
 
 /// Writes the serial and the expiry into \a content and signs it. Throws Refusal if clients cannot read the feed, if it
-/// is not UTF-8 or has no channel, and if the serial would not grow.
+/// is not UTF-8 or has no channel, if the serial would not grow, and if this computer's clock cannot be right.
 SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms);
 
 /// "signed with serial 8, expires 2026-12-20T08:00:00Z"

@@ -2,8 +2,8 @@
 
 #include "Publisher/Refusal.h"
 #include "Publisher/SharedOptions.h"
-#include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
+#include "Publisher/gate/FeedLength.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
 #include <QFileInfo>
@@ -21,8 +21,7 @@ struct SignFeedOptions
     SignerOptions signer;
     std::string output;
     std::string keyStatement;
-    std::optional<qint64> serial;
-    int validDays = SigningTerms().validDays;
+    SigningTerms terms;
     bool isAcceptingChanges = false;
 };
 
@@ -40,9 +39,8 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     {
         bare = WithKeyStatement(name, bare, QString::fromStdString(options.keyStatement), *signer);
     }
-    SignedFeedBytes const feed =
-        SignFeed(name, bare, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
-    ReplaceFile(output, feed.bytes);
+    SignedFeedBytes const feed = SignFeed(name, bare, *signer, options.terms);
+    ReplaceFeed({output, QFileInfo(name).path(), feed.bytes, content.isSigned ? bytes.size() : 0}, console);
     console.Print(u"%1: %2"_s.arg(output, TextOf(feed.terms)));
     return ExitStatus::Clean;
 }
@@ -58,21 +56,7 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
         SignFeedFile);
     verb.add_option("FEED", options.feed, "File of the feed")->required();
     AddSignerOptions(verb, options.signer);
-    AddValidForOption(verb, options.validDays);
-    // As text: CLI11 would reduce the number to the greatest one that fits.
-    verb.add_option_function<std::string>(
-            "--serial",
-            [&serial = options.serial](std::string const& text)
-            { serial = Engine::FeedSerial(QString::fromStdString(text)); },
-            "Serial number, greater than that of the published feed; default: the next one, or the seconds since 1970 "
-            "if that is greater")
-        ->type_name("NUMBER")
-        ->check(
-            [](std::string const& text)
-            {
-                bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
-                return isSerial ? std::string() : text + " is not a number from 1 to 9223372036854775807";
-            });
+    AddSigningOptions(verb, options.terms);
     AddKeyStatementOption(verb, options.keyStatement);
     verb.add_flag("--accept-changes", options.isAcceptingChanges,
                   "Also sign a feed that was changed after it was signed, or that another key signed");

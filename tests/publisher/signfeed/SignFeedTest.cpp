@@ -2,6 +2,8 @@
 // it refuses.
 
 #include "Engine/core/check/FeedTrust.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/signfeed/SigningClock.h"
 #include "tests/engine/SignedFeedText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"
@@ -11,8 +13,10 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <limits>
 #include <ostream>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace Pelnar::Testing
@@ -159,6 +163,76 @@ TEST_F(SignFeedTest, ClockThatWasSetBackIsTold)
         SignedContent({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 100000)});
     ExpectRefused(Run(), "according to its serial, but this computer's clock says ", feed);
     EXPECT_EQ(Run({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 200000)}).status, 0);
+}
+
+TEST_F(SignFeedTest, ClockThatIsFarAheadIsTold)
+{
+    Put(PLAIN);
+    qint64 const now = QDateTime::currentSecsSinceEpoch();
+    QByteArray const feed = SignedContent({Regular("--serial"), QString::number(now - 400 * 86400)});
+    ToolRun const run = Run();
+    ExpectRefused(run, "was last signed at ", feed);
+    // The error says how to go on, and the next run needs nothing more.
+    QRegularExpressionMatch const serial =
+        QRegularExpression(Regular("set the clock; if it is right, give (--serial) ([0-9]+)\n"))
+            .match(QString::fromStdString(run.err));
+    ASSERT_TRUE(serial.hasMatch()) << run.err;
+    EXPECT_EQ(Run({serial.captured(1), serial.captured(2)}).status, 0);
+    EXPECT_GE(Believe(Content()).terms.serial, now);
+    EXPECT_EQ(Run().status, 0);
+}
+
+TEST_F(SignFeedTest, ClockThatIsBehindTheFeedsItemsOrItsFileIsTold)
+{
+    QByteArray const item = "<item><pubDate>" +
+                            QDateTime::currentDateTimeUtc().addDays(400).toString(Qt::RFC2822Date).toLatin1() +
+                            "</pubDate></item>";
+    QByteArray const feed = QByteArray(PLAIN).replace("<item/>", item);
+    Put(feed);
+    ExpectRefused(Run(), "has an item of ", feed);
+    Put(PLAIN);
+    timespec times[2] = {};
+    times[0].tv_sec = times[1].tv_sec = ::time(nullptr) + 100000;
+    ASSERT_EQ(::utimensat(AT_FDCWD, Path("feed.xml").c_str(), times, 0), 0);
+    ExpectRefused(Run(), "was changed at ", PLAIN);
+}
+
+/// The message of the check at \a now; empty if it finds nothing.
+std::string ToldOfClock(qint64 now, qint64 publishedSerial, bool isNextGiven)
+{
+    try
+    {
+        Publisher::CheckClock(Regular("/absent/feed.xml"), {}, {publishedSerial, isNextGiven},
+                              QDateTime::fromSecsSinceEpoch(now, Qt::UTC));
+    }
+    catch (Publisher::Refusal const& refusal)
+    {
+        return refusal.what();
+    }
+    return {};
+}
+
+TEST(SigningClock, IsComparedWithTheTimesOfTheFeed)
+{
+    constexpr qint64 NOW = 1800000000;
+    constexpr qint64 A_DAY = 86400;
+    for (qint64 const unusable : {qint64(0), qint64(1577836799), qint64(4102444800), qint64(253402300799)})
+    {
+        std::string const said = ToldOfClock(unusable, 0, false);
+        EXPECT_NE(said.find("cannot be signed, because this computer's clock says "), std::string::npos) << unusable;
+        EXPECT_EQ(ToldOfClock(unusable, 0, true), said) << "its expiry would be wrong too";
+    }
+    EXPECT_EQ(ToldOfClock(NOW, 0, false), "") << "the first signature";
+    EXPECT_EQ(ToldOfClock(NOW, 12, false), "") << "this serial is not a time";
+    EXPECT_EQ(ToldOfClock(NOW, std::numeric_limits<qint64>::max() - 1, false), "");
+    EXPECT_EQ(ToldOfClock(NOW, NOW + A_DAY, false), "");
+    EXPECT_EQ(ToldOfClock(NOW, NOW - 366 * A_DAY, false), "");
+    std::string const behind = ToldOfClock(NOW, NOW + A_DAY + 1, false);
+    EXPECT_NE(behind.find("give --serial 1800086402, and a greater one each time until then"), std::string::npos)
+        << behind;
+    std::string const ahead = ToldOfClock(NOW, NOW - 366 * A_DAY - 1, false);
+    EXPECT_NE(ahead.find("give --serial 1800000000"), std::string::npos) << ahead;
+    EXPECT_EQ(ToldOfClock(NOW, NOW + A_DAY + 1, true) + ToldOfClock(NOW, NOW - 366 * A_DAY - 1, true), "");
 }
 
 TEST_F(SignFeedTest, SerialThatWouldNotGrowIsRefused)

@@ -1,0 +1,90 @@
+#include "Publisher/signfeed/SigningClock.h"
+
+#include "Engine/core/feed/ReleaseRules.h"
+#include "Publisher/Refusal.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr qint64 A_DAY = 86400;
+constexpr qint64 A_YEAR = 366 * A_DAY;
+/// The years 2020 and 2100. A clock that has lost its time begins long before; a greater serial is not a time.
+constexpr qint64 FIRST_TIME = 1577836800;
+constexpr qint64 LAST_TIME = 4102444800;
+
+bool IsTime(qint64 seconds)
+{
+    return seconds >= FIRST_TIME && seconds < LAST_TIME;
+}
+
+QString MomentText(qint64 seconds)
+{
+    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
+}
+
+/// The newest date of an item; 0 without one.
+qint64 NewestDate(Engine::FeedContent const& content)
+{
+    qint64 newest = 0;
+    for (Engine::FeedItem const& item : content.items)
+    {
+        QDateTime const date = Engine::FeedTime(item.dateString);
+        newest = std::max(newest, date.isValid() ? date.toSecsSinceEpoch() : 0);
+    }
+    return newest;
+}
+
+[[noreturn]] void RefuseClock(QString const& name, QString const& known, qint64 now, QString const& mend)
+{
+    throw Refusal({name, u"%1, but this computer's clock says %2"_s.arg(known, MomentText(now)), mend});
+}
+
+} // namespace
+
+void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSerials const& serials,
+                QDateTime const& time)
+{
+    qint64 const now = time.toSecsSinceEpoch();
+    if (!IsTime(now))
+    {
+        throw Refusal({name, u"cannot be signed, because this computer's clock says %1"_s.arg(MomentText(now)),
+                       u"set the clock"_s});
+    }
+    if (serials.isNextGiven)
+    {
+        return;
+    }
+    qint64 const signedAt = IsTime(serials.published) ? serials.published : 0;
+    if (signedAt > now + A_DAY)
+    {
+        RefuseClock(name, u"was signed at %1 according to its serial"_s.arg(MomentText(signedAt)), now,
+                    u"set the clock; if it is right, give --serial %1, and a greater one each time until then"_s.arg(
+                        serials.published + 1));
+    }
+    qint64 const changedAt = QFileInfo(name).lastModified().toSecsSinceEpoch();
+    if (QFileInfo::exists(name) && changedAt > now + A_DAY)
+    {
+        RefuseClock(name, u"was changed at %1"_s.arg(MomentText(changedAt)), now,
+                    u"set the clock; if it is right, use touch on the file"_s);
+    }
+    QString const vouch = u"if it is right, give --serial %1"_s.arg(std::max(serials.published + 1, now));
+    qint64 const newest = NewestDate(content);
+    if (newest > now + A_YEAR)
+    {
+        RefuseClock(name, u"has an item of %1"_s.arg(MomentText(newest)), now,
+                    u"set the clock, or correct the item's pubDate; "_s + vouch);
+    }
+    // Only of a feed that was signed before: a feed may be old when its publisher begins to sign.
+    if (signedAt > 0 && now > signedAt + A_YEAR)
+    {
+        RefuseClock(name, u"was last signed at %1"_s.arg(MomentText(signedAt)), now, u"set the clock; "_s + vouch);
+    }
+}
+
+} // namespace Pelnar::Publisher

@@ -4,9 +4,13 @@
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Publisher/keys/Signer.h"
 
+#include <QDir>
+#include <QRegularExpression>
+
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
-#include <set>
+#include <functional>
 #include <string_view>
 
 #include <fcntl.h>
@@ -21,26 +25,12 @@ constexpr std::size_t SEED_BYTES = crypto_sign_ed25519_SEEDBYTES;
 constexpr std::size_t SECRET_BYTES = crypto_sign_ed25519_SECRETKEYBYTES;
 /// Of PKCS #8: the seed after a fixed header.
 constexpr std::size_t WRAPPED_SEED_BYTES = 48;
-/// The same in base64, without padding.
-constexpr std::size_t TEXT_LENGTHS[] = {43, 86, 64};
+QString const MEND_OF_PUBLISHED =
+    u"if the key was published before, make a new key as docs/guide/keys.md says for a stolen one"_s;
 /// A larger file is no file with a key.
 constexpr off_t MOST_FILE_BYTES = 64 * 1024;
-/// The part of a file that is searched.
-constexpr std::size_t MOST_SEARCHED_BYTES = 4 * 1024;
 
-enum class Likeness
-{
-    None,
-    Form, ///< as many bytes as a seed, alone in their file, and not a public key
-    Key,
-};
-
-std::vector<std::uint8_t> BytesOf(std::string_view text)
-{
-    constexpr std::size_t GROUP = 4;
-    std::string const padding((GROUP - text.size() % GROUP) % GROUP, '=');
-    return Engine::DecodeBase64(std::string(text) + padding).value_or(std::vector<std::uint8_t>());
-}
+using KeyBytes = std::vector<std::uint8_t>;
 
 bool IsInBase64(char character)
 {
@@ -48,26 +38,85 @@ bool IsInBase64(char character)
            (character >= '0' && character <= '9') || character == '+' || character == '/';
 }
 
+bool IsInHexadecimal(char character)
+{
+    return std::isxdigit(static_cast<unsigned char>(character)) != 0;
+}
+
+KeyBytes FromBase64(std::string_view text)
+{
+    constexpr std::size_t GROUP = 4;
+    std::string const padding((GROUP - text.size() % GROUP) % GROUP, '=');
+    return Engine::DecodeBase64(std::string(text) + padding).value_or(KeyBytes());
+}
+
+KeyBytes FromHexadecimal(std::string_view text)
+{
+    QByteArray const bytes = QByteArray::fromHex(QByteArray(text.data(), int(text.size())));
+    return KeyBytes(bytes.begin(), bytes.end());
+}
+
+/// A way to write a key in text.
+struct KeyAlphabet
+{
+    bool (*isInside)(char);
+    KeyBytes (*decode)(std::string_view);
+    std::vector<std::size_t> lengths; ///< of a seed, of a seed with its public key, and of PKCS #8
+};
+
+std::vector<KeyAlphabet> const ALPHABETS{{IsInBase64, FromBase64, {43, 86, 64}},
+                                         {IsInHexadecimal, FromHexadecimal, {64, 128, 96}}};
+
+/// The bytes in each block of \a text that PEM marks as a private key.
+std::vector<KeyBytes> MarkedKeys(std::string const& text)
+{
+    static QRegularExpression const BLOCK(u"-----BEGIN ([A-Z0-9 ]*PRIVATE KEY)-----([^<>-]*)-----END \\1-----"_s);
+    static QRegularExpression const BREAKS(u"\\\\[nr]|[^A-Za-z0-9+/]"_s); // in a text of JSON too
+    std::vector<KeyBytes> keys;
+    if (text.find("PRIVATE KEY-----") == std::string::npos)
+    {
+        return keys;
+    }
+    QRegularExpressionMatchIterator matches = BLOCK.globalMatch(QString::fromLatin1(text.data(), int(text.size())));
+    while (matches.hasNext())
+    {
+        keys.push_back(FromBase64(matches.next().captured(2).remove(BREAKS).toStdString()));
+    }
+    return keys;
+}
+
+/// \a text without what separates the bytes of a key that is written in several
+/// lines.
+std::string WithoutSeparators(std::string text)
+{
+    auto const isSeparator = [](char character)
+    { return character == ':' || std::isspace(static_cast<unsigned char>(character)) != 0; };
+    text.erase(std::remove_if(text.begin(), text.end(), isSeparator), text.end());
+    return text;
+}
+
+QString IdOf(std::uint8_t const* publicKey)
+{
+    return KeyIdOf(QByteArray(reinterpret_cast<char const*>(publicKey), SEED_BYTES).toBase64().toStdString());
+}
+
 class KeySearch
 {
 public:
     explicit KeySearch(std::set<QString> knownIds) : m_knownIds(std::move(knownIds)) {}
 
-    /// \a start: of a file that has \a fileSize bytes.
-    [[nodiscard]] Likeness Judge(std::string const& start, std::size_t fileSize) const
+    [[nodiscard]] bool Finds(std::string const& content) const
     {
-        std::vector<std::uint8_t> const raw(start.begin(),
-                                            start.begin() + std::ptrdiff_t(std::min(start.size(), SECRET_BYTES)));
-        if (IsKey(raw) || HasKeyText(start))
-        {
-            return Likeness::Key;
-        }
-        return start.size() == fileSize && HasSeedForm(start) ? Likeness::Form : Likeness::None;
+        KeyBytes const raw(content.begin(), content.begin() + std::ptrdiff_t(std::min(content.size(), SECRET_BYTES)));
+        std::vector<KeyBytes> const marked = MarkedKeys(content);
+        return IsKey(raw) || HasKeyText(content) || HasKeyText(WithoutSeparators(content)) ||
+               std::any_of(marked.begin(), marked.end(), [this](KeyBytes const& bytes) { return HoldsKnown(bytes); });
     }
 
 private:
-    /// True if a public key that is known, or that follows the seed, belongs to the seed.
-    bool IsKey(std::vector<std::uint8_t> const& bytes) const
+    /// True if a public key that is known, or that follows the seed, belongs to
+    /// the seed.
+    bool IsKey(KeyBytes const& bytes) const
     {
         if (bytes.size() < SEED_BYTES)
         {
@@ -77,42 +126,47 @@ private:
         Engine::Ed25519Key publicKey;
         unsigned char secret[SECRET_BYTES];
         ::crypto_sign_ed25519_seed_keypair(publicKey.data(), secret, &*seed);
-        if (bytes.size() == SECRET_BYTES && std::equal(bytes.begin(), bytes.end(), secret))
-        {
-            return true;
-        }
-        QByteArray const text(reinterpret_cast<char const*>(publicKey.data()), int(publicKey.size()));
-        return m_knownIds.count(KeyIdOf(text.toBase64().toStdString())) != 0;
+        return (bytes.size() == SECRET_BYTES && std::equal(bytes.begin(), bytes.end(), secret)) ||
+               m_knownIds.count(IdOf(publicKey.data())) != 0;
     }
 
     bool HasKeyText(std::string_view text) const
     {
-        auto const isEnd = [](char character) { return !IsInBase64(character); };
+        return std::any_of(ALPHABETS.begin(), ALPHABETS.end(),
+                           [&](KeyAlphabet const& alphabet) { return HasKeyText(text, alphabet); });
+    }
+
+    bool HasKeyText(std::string_view text, KeyAlphabet const& alphabet) const
+    {
         for (auto begin = text.begin(); begin != text.end();)
         {
-            auto const end = std::find_if(begin, text.end(), isEnd);
-            for (std::size_t const length : TEXT_LENGTHS)
+            auto const end = std::find_if_not(begin, text.end(), alphabet.isInside);
+            for (std::size_t const length : alphabet.lengths)
             {
                 // Something else may precede the key without a blank.
                 bool const isLongEnough = std::size_t(end - begin) >= length;
-                if (isLongEnough && IsKey(BytesOf({&*(end - std::ptrdiff_t(length)), length})))
+                if (isLongEnough && IsKey(alphabet.decode({&*(end - std::ptrdiff_t(length)), length})))
                 {
                     return true;
                 }
             }
-            begin = std::find_if(end, text.end(), IsInBase64);
+            begin = std::find_if(end, text.end(), alphabet.isInside);
         }
         return false;
     }
 
-    static bool HasSeedForm(std::string const& text)
+    /// True if a marked private key has a known public key in it: it may be
+    /// encrypted. Otherwise it is the key of something else, such as a server.
+    bool HoldsKnown(KeyBytes const& bytes) const
     {
-        std::string const line = QByteArray::fromStdString(text).trimmed().toStdString();
-        auto const bytes = Engine::DecodeBase64(line);
-        Engine::Ed25519Key publicKey;
-        // One seed in sixteen is also a valid public key.
-        return bytes && bytes->size() == SEED_BYTES &&
-               Engine::ParsePublicKey(line, publicKey) != Engine::UpdateFault::None;
+        for (std::size_t at = 0; at + SEED_BYTES <= bytes.size(); ++at)
+        {
+            if (m_knownIds.count(IdOf(bytes.data() + at)) != 0)
+            {
+                return true;
+            }
+        }
+        return false;
     }
 
     std::set<QString> m_knownIds;
@@ -138,58 +192,88 @@ void AddKeysOf(GatedVersion const& version, std::set<QString>& ids)
     }
 }
 
-Problem ProblemOf(Likeness likeness, QString const& archive, QString const& entry)
+/// Calls \a found with the path of each small file below \a folder that holds a
+/// private key. Messages call the folder \a name. Throws Refusal for a file
+/// that cannot be read.
+void FindKeys(int folder, QString const& name, std::function<bool(std::string const&)> const& isKey,
+              std::function<void(QString const&)> const& found)
 {
-    QString const mend =
-        u"remove the file and pack the archive again; if the key was published before, make a new key as docs/guide/keys.md says for a stolen one"_s;
-    if (likeness == Likeness::Key)
-    {
-        return {
-            archive,
-            u"contains a private key, so everybody who downloads the archive could sign updates with it: \"%1\""_s.arg(
-                entry),
-            mend};
-    }
-    return {archive, u"contains a file that looks like a private key: \"%1\""_s.arg(entry),
-            mend + u"; if it is something else, write a name before the value"_s};
-}
-
-} // namespace
-
-void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
-                      RefusalList& refusals)
-{
-    std::set<QString> ids;
-    AddKeysOf(version, ids);
-    for (GatedVersion const& other : all)
-    {
-        AddKeysOf(other, ids);
-    }
-    ids.erase(QString()); // of a malformed key
-    KeySearch const search(std::move(ids));
-    auto const visit = [&](std::string const& path, int folder, std::string const& name, struct stat const& status)
+    auto const visit = [&](std::string const& path, int parent, std::string const& entry, struct stat const& status)
     {
         if (!S_ISREG(status.st_mode) || status.st_size < off_t(SEED_BYTES) || status.st_size > MOST_FILE_BYTES)
         {
             return;
         }
-        Engine::UniqueFd const file(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-        auto const start = file ? Engine::ReadStart(file.Get(), MOST_SEARCHED_BYTES) : std::nullopt;
-        QString const entry = QString::fromStdString(bundle.Name() + '/' + path);
-        if (!start)
+        Engine::UniqueFd const file(::openat(parent, entry.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+        auto const content = file ? Engine::ReadStart(file.Get(), MOST_FILE_BYTES) : std::nullopt;
+        if (!content)
         {
-            RefuseReading(version.path + u'/' + entry, errno);
+            RefuseReading(name + u'/' + QFile::decodeName(path.c_str()), errno);
         }
-        Likeness const likeness = search.Judge(*start, std::size_t(status.st_size));
-        if (likeness != Likeness::None)
+        if (isKey(*content))
         {
-            refusals.Add(ProblemOf(likeness, version.path, entry));
+            found(QFile::decodeName(path.c_str()));
         }
     };
-    if (!Engine::WalkTree(bundle.Descriptor(), visit))
+    if (!Engine::WalkTree(folder, visit))
     {
-        RefuseReading(version.path, errno);
+        RefuseReading(name, errno);
     }
+}
+
+} // namespace
+
+std::set<QString> KnownKeyIds(std::vector<GatedVersion> const& versions)
+{
+    std::set<QString> ids;
+    for (GatedVersion const& version : versions)
+    {
+        AddKeysOf(version, ids);
+    }
+    ids.erase(QString()); // of a malformed key
+    return ids;
+}
+
+void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::set<QString> knownIds,
+                      RefusalList& refusals)
+{
+    AddKeysOf(version, knownIds);
+    knownIds.erase(QString());
+    KeySearch const search(std::move(knownIds));
+    QString const name = QString::fromStdString(bundle.Name()) + u'/';
+    FindKeys(
+        bundle.Descriptor(), version.path + u'/' + QString::fromStdString(bundle.Name()),
+        [&](std::string const& content) { return search.Finds(content); },
+        [&](QString const& path)
+        {
+            refusals.Add(
+                {version.path,
+                 u"contains a private key, so everybody who downloads the archive could sign updates with it: \"%1\""_s
+                     .arg(name + path),
+                 u"remove the file and pack the archive again; "_s + MEND_OF_PUBLISHED});
+        });
+}
+
+void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals)
+{
+    Engine::UniqueFd const opened(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!opened)
+    {
+        RefuseReading(folder, errno);
+    }
+    KeySearch const search(std::move(knownIds));
+    // A small archive may contain the test key of a server.
+    auto const isText = [](std::string const& content) { return content.find('\0') == std::string::npos; };
+    FindKeys(
+        opened.Get(), folder,
+        [&](std::string const& content)
+        { return (isText(content) && !MarkedKeys(content).empty()) || search.Finds(content); },
+        [&](QString const& path)
+        {
+            refusals.Add({QDir(folder).filePath(path),
+                          u"contains a private key, and everything in this folder is uploaded"_s,
+                          u"move it to another folder; "_s + MEND_OF_PUBLISHED});
+        });
 }
 
 } // namespace Pelnar::Publisher

@@ -1,16 +1,24 @@
-// PrivateKeys.h: finds private keys in a bundle that is to be published.
+// PrivateKeys.h: finds private keys in what is to be published.
 #pragma once
 
 #include "Publisher/Refusal.h"
 #include "Publisher/gate/GatedVersion.h"
 
+#include <set>
+
 namespace Pelnar::Publisher
 {
 
-/// Adds each small file of \a bundle that is a private key in a form that this tool reads, or that contains one near
-/// its start. A seed between other text counts if it is of a key that signs \a version or one of \a all, or that their
-/// clients trust. Throws Refusal for a file that cannot be read.
-void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
+/// The ids of the keys that sign \a versions or that their clients trust.
+std::set<QString> KnownKeyIds(std::vector<GatedVersion> const& versions);
+
+/// Adds each file of \a bundle, up to 64 KiB, that contains a private key: raw, in base64, in hexadecimal or in PEM,
+/// alone or between other text. A seed alone counts if it is of a key of \a version or of \a knownIds: any 32 bytes
+/// could be one. Throws Refusal for a file that cannot be read.
+void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::set<QString> knownIds,
                       RefusalList& refusals);
+
+/// The same for the files of a folder that is uploaded, and below it. A private key in PEM counts there for any use.
+void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals);
 
 } // namespace Pelnar::Publisher

@@ -7,6 +7,7 @@
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/delta/DeltaFile.h"
+#include "Publisher/gate/PrivateKeys.h"
 #include "Publisher/gate/ReleaseFiles.h"
 #include "Publisher/gate/ReleaseGate.h"
 #include "Publisher/keys/Signer.h"
@@ -136,6 +137,9 @@ public:
         }
         CheckTrust(m_versions, m_refusals);
     }
+
+    /// After Check.
+    std::vector<GatedVersion> const& Versions() const { return m_versions; }
 
 private:
     bool IsTaken(FeedItem const& item) const
@@ -375,8 +379,16 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
                                                          { return other.fileUrl == item.fileUrl; });
                                   }),
                    macItems.end());
-    PlatformCheck(request, FeedPlatform::Linux, files, console, refusals).Check(linuxItems, linuxItems);
-    PlatformCheck(request, FeedPlatform::MacOS, files, console, refusals).Check(macItems, allMacItems);
+    PlatformCheck forLinux(request, FeedPlatform::Linux, files, console, refusals);
+    PlatformCheck forMacOS(request, FeedPlatform::MacOS, files, console, refusals);
+    forLinux.Check(linuxItems, linuxItems);
+    forMacOS.Check(macItems, allMacItems);
+    if (!request.folder.isEmpty())
+    {
+        std::set<QString> ids = KnownKeyIds(forLinux.Versions());
+        ids.merge(KnownKeyIds(forMacOS.Versions()));
+        refusals.Try([&] { CheckFolderForKeys(request.folder, ids, refusals); });
+    }
     refusals.ThrowIfAny();
     if (linuxItems.empty() && macItems.empty() && errors.empty())
     {

@@ -302,7 +302,7 @@ void CheckContent(BundleTree const& bundle, GatedVersion const& version, std::ve
                   RefusalList& refusals)
 {
     CheckProgramFile(bundle, version, refusals);
-    CheckPrivateKeys(bundle, version, all, refusals);
+    CheckPrivateKeys(bundle, version, KnownKeyIds(all), refusals);
 }
 
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)

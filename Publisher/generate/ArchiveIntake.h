@@ -23,6 +23,8 @@ public:
     /// Reads and judges the bundles and installers among \a archives. Adds to \a refusals what clients would refuse or
     /// confuse. The items are signed only if \a refusals stays empty.
     std::vector<NewItem> Take(std::vector<FolderArchive> const& archives, RefusalList& refusals);
+    /// The published versions, and the new ones after them.
+    std::vector<GatedVersion> const& Versions() const { return m_versions; }
 
 private:
     NewItem TakeBundle(FolderArchive const& archive, RefusalList& refusals);

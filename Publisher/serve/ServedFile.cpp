@@ -1,6 +1,7 @@
 #include "Publisher/serve/ServedFile.h"
 
 #include "Engine/core/base/TreeAccess.h"
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Publisher/Console.h"
 
@@ -20,6 +21,7 @@ namespace
 constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
 /// Of a folder: others may open the files whose names they know.
 constexpr mode_t ENTERED_BY_OTHERS = S_IXGRP | S_IXOTH;
+QString const KEY_REASON = u"it is a private key"_s;
 /// A larger file is an archive and not a private key.
 constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
 /// The lengths of a signing key: the seed, or the seed with the public key.
@@ -133,9 +135,25 @@ ServedFile OpenServedFile(int folderFd, QString const& path)
     }
     if (HasKeyName(path) || HoldsKey(file.Get(), status.st_size))
     {
-        return {{}, u"it is a private key"_s};
+        return {{}, KEY_REASON};
     }
     return {std::move(file), {}};
+}
+
+std::vector<QString> FindHiddenKeys(int folderFd)
+{
+    std::vector<QString> paths;
+    auto const visit = [&](std::string const& path, int, std::string const&, struct stat const& status)
+    {
+        QString const name = QFile::decodeName(path.c_str());
+        if (S_ISREG(status.st_mode) && OpenServedFile(folderFd, name).hiddenBecause == KEY_REASON)
+        {
+            paths.push_back(name);
+        }
+    };
+    static_cast<void>(Engine::WalkTree(folderFd, visit)); // what cannot be read is not served either
+    std::sort(paths.begin(), paths.end());
+    return paths;
 }
 
 } // namespace Pelnar::Publisher

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace Pelnar::Publisher
 {
 
@@ -19,5 +21,8 @@ struct ServedFile
 /// Opens the plain file \a path below the folder open at \a folderFd. Hidden are: names that begin with a dot, files
 /// that only their owner may read, private keys (by name or content), and everything in a hidden folder.
 ServedFile OpenServedFile(int folderFd, QString const& path);
+
+/// The paths of the private keys in the folder open at \a folderFd, and below it, as far as it can be read.
+std::vector<QString> FindHiddenKeys(int folderFd);
 
 } // namespace Pelnar::Publisher

@@ -8,6 +8,7 @@
 #include "Publisher/serve/RequestRules.h"
 #include "Publisher/serve/ServedFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -104,6 +105,13 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
     {
         manners.certificate =
             ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
+    }
+    for (QString const& key : FindHiddenKeys(folder.Get()))
+    {
+        console.Warn(
+            {QDir(name).filePath(key),
+             u"is not served, because it is or resembles a private key; an upload of this folder would publish it"_s,
+             u"move it to another folder"_s});
     }
     std::mutex logging;
     FileServer server(std::move(folder), std::move(manners),

@@ -99,10 +99,11 @@ TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsAccepted)
 {
     m_folder.PutVersion("5.9");
     Publish();
-    m_folder.Put("second", Base64(std::string(32, '\x9')) + '\n');
-    EXPECT_EQ(::chmod(m_folder.PathOf("second").toStdString().c_str(), 0600), 0);
+    std::string const second = m_besides.Path() + "/second";
+    WriteFile(second, Base64(std::string(32, '\x9')) + '\n');
+    EXPECT_EQ(::chmod(second.c_str(), 0600), 0);
     m_folder.PutBundle(WithNewKey("5.11"));
-    ToolRun const run = m_folder.Generate({QStringLiteral("--second-key"), m_folder.PathOf("second")});
+    ToolRun const run = m_folder.Generate({QStringLiteral("--second-key"), QString::fromStdString(second)});
     EXPECT_EQ(run.status, 0) << run.err;
     std::vector<Engine::FeedItem> const items = m_folder.Items();
     ASSERT_EQ(items.size(), 2u);

@@ -56,6 +56,72 @@ std::string Wrapped(std::string const& text, std::size_t width)
     return result;
 }
 
+/// The letters to add, remove, replace or exchange with their neighbour to make \a b of \a a.
+std::size_t Difference(std::string const& a, std::string const& b)
+{
+    std::vector<std::vector<std::size_t>> steps(a.size() + 1, std::vector<std::size_t>(b.size() + 1));
+    for (std::size_t i = 0; i <= a.size(); ++i)
+    {
+        for (std::size_t j = 0; j <= b.size(); ++j)
+        {
+            if (i == 0 || j == 0)
+            {
+                steps[i][j] = i + j;
+                continue;
+            }
+            std::size_t const replaced = steps[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            steps[i][j] = std::min({steps[i - 1][j] + 1, steps[i][j - 1] + 1, replaced});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+            {
+                steps[i][j] = std::min(steps[i][j], steps[i - 2][j - 2] + 1);
+            }
+        }
+    }
+    return steps[a.size()][b.size()];
+}
+
+/// The name that a person probably meant by \a word; empty if it resembles none.
+std::string MeantBy(std::string const& word, std::vector<std::string> const& names)
+{
+    std::size_t least = std::min<std::size_t>(2, word.size() / 3) + 1;
+    std::string meant;
+    for (std::string const& name : names)
+    {
+        std::size_t const difference = Difference(word, name);
+        meant = difference < least ? name : meant;
+        least = std::min(least, difference);
+    }
+    return meant;
+}
+
+/// What is wrong with a word that \a verb does not know.
+struct UnknownWord
+{
+    std::string what;
+    std::string meant; ///< empty if nobody can tell
+};
+
+UnknownWord Unknown(CLI::App const& verb, std::string const& word, bool isVerbWanted)
+{
+    std::vector<std::string> names;
+    if (word.rfind('-', 0) == 0)
+    {
+        for (CLI::Option const* const option : verb.get_options())
+        {
+            for (std::string const& name : option->get_lnames())
+            {
+                names.push_back("--" + name);
+            }
+        }
+        return {'"' + word + "\" is not an option", MeantBy(word, names)};
+    }
+    for (CLI::App const* const below : verb.get_subcommands({}))
+    {
+        names.push_back(below->get_name());
+    }
+    return {'"' + word + (isVerbWanted ? "\" is not a verb" : "\" is one argument too many"), MeantBy(word, names)};
+}
+
 ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& error, Console const& console)
 {
     if (error.get_exit_code() == int(CLI::ExitCodes::Success))
@@ -75,13 +141,19 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
     }
     bool const isVerbMissing =
         error.get_exit_code() == int(CLI::ExitCodes::RequiredError) && !verb->get_subcommands({}).empty();
-    std::string what = isVerbMissing ? "a verb is required" : error.what();
-    if (isVerbMissing && !verb->remaining().empty())
+    UnknownWord problem{isVerbMissing ? "a verb is required" : error.what(), {}};
+    std::vector<std::string> const words = verb->remaining();
+    if (!words.empty() && (isVerbMissing || error.get_exit_code() == int(CLI::ExitCodes::ExtrasError)))
     {
-        std::string const word = verb->remaining().front();
-        what = '"' + word + (word.rfind('-', 0) == 0 ? "\" is not an option" : "\" is not a verb");
+        auto const option =
+            std::find_if(words.begin(), words.end(), [](std::string const& word) { return word.rfind('-', 0) == 0; });
+        problem = Unknown(*verb, isVerbMissing || option == words.end() ? words.front() : *option, isVerbMissing);
     }
-    return console.Refuse({QString::fromStdString(what), QString::fromStdString("see " + understood + " --help")});
+    std::string const help = understood + " --help";
+    return console.Refuse(
+        {QString::fromStdString(problem.what),
+         QString::fromStdString(problem.meant.empty() ? "see " + help
+                                                      : "did you mean " + problem.meant + "? See " + help)});
 }
 
 /// What all verbs share. An empty value usually comes from an unset variable of a script, so no verb accepts one.

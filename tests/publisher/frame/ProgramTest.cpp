@@ -65,6 +65,18 @@ TEST(AppcastProgram, NamesTheWordThatItDoesNotUnderstand)
     EXPECT_EQ(said({QStringLiteral("--loud")}), "error: \"--loud\" is not an option; see pelnar-appcast --help\n");
     EXPECT_EQ(said({QStringLiteral("keys"), QStringLiteral("make")}),
               "error: \"make\" is not a verb; see pelnar-appcast keys --help\n");
+    auto const saidOf = [&said](char const* line) { return said(QString::fromLatin1(line).split(QLatin1Char(' '))); };
+    EXPECT_EQ(saidOf("generat"),
+              "error: \"generat\" is not a verb; did you mean generate? See pelnar-appcast --help\n");
+    EXPECT_EQ(saidOf("signfeed"),
+              "error: \"signfeed\" is not a verb; did you mean sign-feed? See pelnar-appcast --help\n");
+    EXPECT_EQ(saidOf("delta aplpy"),
+              "error: \"aplpy\" is not a verb; did you mean apply? See pelnar-appcast delta --help\n");
+    EXPECT_EQ(saidOf("generate . --kye file"),
+              "error: \"--kye\" is not an option; did you mean --key? See pelnar-appcast generate --help\n");
+    EXPECT_EQ(saidOf("lint feed --loudly"), "error: \"--loudly\" is not an option; see pelnar-appcast lint --help\n");
+    EXPECT_EQ(saidOf("lint feed -x"), "error: \"-x\" is not an option; see pelnar-appcast lint --help\n");
+    EXPECT_EQ(saidOf("serve . other"), "error: \"other\" is one argument too many; see pelnar-appcast serve --help\n");
     EXPECT_EQ(said({QStringLiteral("keys")}), "error: a verb is required; see pelnar-appcast keys --help\n");
     EXPECT_EQ(said({QStringLiteral("serve"), QStringLiteral("."), QStringLiteral("--port"), QStringLiteral("65536")}),
               "error: --port: Value 65536 not in range 0 to 65535; see pelnar-appcast serve --help\n");

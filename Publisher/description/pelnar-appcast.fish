@@ -165,7 +165,7 @@ complete -c pelnar-appcast -n '__fish_seen_subcommand_from edit-notes' -l signer
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from edit-notes' -l signer-key -r -d 'The public key that this program signs with'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from edit-notes' -l valid-for -r -d 'Days until the signature expires'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from edit-notes' -l serial -r -d 'Serial number'
-complete -c pelnar-appcast -f -n '__fish_use_subcommand' -a 'prune' -d 'Remove old items from a feed. Refused if a client would then be offered another update'
+complete -c pelnar-appcast -f -n '__fish_use_subcommand' -a 'prune' -d 'Remove old items from a feed. Refused if a client would then be offered another update. Move their archives out of the folder'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from prune' -s h -l help -d 'Print this help message and exit'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from prune' -l dry-run -d 'Show the changes'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from prune' -l key -r -d 'File of the private key'

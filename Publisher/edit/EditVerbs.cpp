@@ -151,9 +151,11 @@ void AddEdits(CLI::App& program, VerbContext& context)
             "File of the notes: NAME.html, .md or .txt. Files for a language, such as NAME.de.html, are included")
         ->required();
 
-    auto const prune = AddEdit(program, context, "prune",
-                               "Remove old items from a feed. Refused if a client would then be offered another update",
-                               [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); });
+    auto const prune =
+        AddEdit(program, context, "prune",
+                "Remove old items from a feed. Refused if a client would then be offered another update. Move "
+                "their archives out of the folder: \"generate\" adds every archive that the feed lacks",
+                [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); });
     prune.app
         .add_option("--keep", prune.options.keptVersions,
                     "Number of versions to keep; withdrawn versions are kept in addition")

@@ -50,11 +50,23 @@ void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path
     RefuseFile(path, u"cannot be renamed to its final name"_s, errno, MEND);
 }
 
+/// \a path, or the file that the link there leads to: a rename would replace the link. Throws Refusal.
+QString TargetOf(QString const& path)
+{
+    QFileInfo const file(path);
+    QString const target = file.isSymLink() ? file.canonicalFilePath() : path;
+    if (target.isEmpty())
+    {
+        throw Refusal({path, u"is a link that leads nowhere"_s, u"remove the link, or make the file that it names"_s});
+    }
+    return target;
+}
+
 } // namespace
 
-AtomicFile::AtomicFile(QString const& path) : m_path(path)
+AtomicFile::AtomicFile(QString const& path) : m_path(TargetOf(path))
 {
-    QByteArray const folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    QByteArray const folder = QFile::encodeName(QFileInfo(m_path).absolutePath());
     m_folder = Engine::UniqueFd(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     bool const canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
     if (m_folder && canBeNamed)

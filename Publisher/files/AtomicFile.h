@@ -26,7 +26,8 @@ class AtomicFile
 {
 public:
     /// Opens a file without a name, or a hidden one if the file system cannot do that. The file is in the folder of \a
-    /// path and has the permissions of a new file. Throws Refusal.
+    /// path and has the permissions of a new file. If \a path is a link, the file that it leads to is meant. Throws
+    /// Refusal.
     explicit AtomicFile(QString const& path);
     ~AtomicFile();
     AtomicFile(AtomicFile const&) = delete;

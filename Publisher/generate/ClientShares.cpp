@@ -40,7 +40,8 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
         }
         QStringList const words = line.split(BLANKS);
         bool isNumber = false;
-        ClientShare const client{WholeVersion(words.front()), words.size() == 2 ? words.back().toDouble(&isNumber) : 0};
+        ClientShare const client{words.front(), WholeVersion(words.front()),
+                                 words.size() == 2 ? words.back().toDouble(&isNumber) : 0};
         if (!client.version.IsValid() || !isNumber || !std::isfinite(client.share) || !(client.share > 0))
         {
             RefuseLine(name, number, u"\"%1\" is not a version and a share"_s.arg(line));

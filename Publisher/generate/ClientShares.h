@@ -12,6 +12,7 @@ namespace Pelnar::Publisher
 
 struct ClientShare
 {
+    QString versionText;
     Core::Version version; ///< all four components present
     double share = 0;
 };

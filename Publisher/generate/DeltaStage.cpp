@@ -31,12 +31,14 @@ void DeltaStage::AddTo(std::vector<NewItem>& items, DeltaChoice const& choice)
         std::vector<Base> const bases = IsNewest(item, items) ? BasesFor(item, choice) : std::vector<Base>();
         for (Base const& base : bases)
         {
-            if (!HasDeltaFrom(item, base.versionText))
+            bool const isDeclined = m_declined.count({item.fileName, base.fileName}) != 0;
+            if (!isDeclined && !HasDeltaFrom(item, base.versionText))
             {
                 Make(item, base, choice.effort);
             }
         }
     }
+    TellMissing(choice);
     // Newest base first, in any order of addition.
     for (NewItem& item : items)
     {
@@ -73,12 +75,13 @@ std::vector<DeltaStage::Base> DeltaStage::FindBases(std::vector<NewItem> const& 
     return bases;
 }
 
-std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaChoice const& choice) const
+std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaChoice const& choice)
 {
     std::vector<Base> bases;
     std::copy_if(m_bases.begin(), m_bases.end(), std::back_inserter(bases),
                  [&newest](Base const& base)
                  { return base.version < newest.version && Engine::ShareMachine(base.machines, newest.machines); });
+    auto const most = static_cast<std::size_t>(choice.count);
     if (!choice.clients.empty())
     {
         std::vector<Base> chosen;
@@ -90,11 +93,31 @@ std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaC
             {
                 chosen.push_back(*base);
             }
+            else if (chosen.size() < most && client.version != newest.version)
+            {
+                m_missing.insert(client.versionText);
+            }
         }
         bases = std::move(chosen);
     }
-    bases.resize(std::min(bases.size(), static_cast<std::size_t>(choice.count)));
+    bases.resize(std::min(bases.size(), most));
     return bases;
+}
+
+void DeltaStage::TellMissing(DeltaChoice const& choice) const
+{
+    constexpr int MOST_NAMED = 5;
+    QStringList const names(m_missing.begin(), m_missing.end());
+    if (!names.isEmpty())
+    {
+        bool const areMore = names.size() > MOST_NAMED;
+        m_workplace.Warn(
+            choice.clientsFile,
+            u"no delta is made from %1: the folder has no published archive of an older version with that number"_s.arg(
+                names.mid(0, MOST_NAMED).join(u", "_s) +
+                (areMore ? u" and %1 more"_s.arg(names.size() - MOST_NAMED) : QString())),
+            u"put the archives that were published back into the folder, or correct the list"_s);
+    }
 }
 
 bool DeltaStage::IsNewest(NewItem const& item, std::vector<NewItem> const& items) const
@@ -178,6 +201,7 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
     {
         m_workplace.Warn(path, u"ignored: saves less than a tenth of the whole archive"_s,
                          u"remove it; clients of that version download the archive"_s);
+        m_declined.insert({item.fileName, base.fileName});
         return;
     }
     item.deltas.push_back({fileName, base.versionText, signature});

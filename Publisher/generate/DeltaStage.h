@@ -8,6 +8,8 @@
 #include "Publisher/generate/Workplace.h"
 
 #include <memory>
+#include <set>
+#include <utility>
 
 namespace Pelnar::Publisher
 {
@@ -16,6 +18,7 @@ namespace Pelnar::Publisher
 struct DeltaChoice
 {
     int count = 0;                    ///< at most
+    QString clientsFile;              ///< for messages
     std::vector<ClientShare> clients; ///< empty: the newest versions; otherwise those with the largest shares
     Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
 };
@@ -50,7 +53,8 @@ private:
 
     std::vector<Base> FindBases(std::vector<NewItem> const& items) const;
     /// The bases before \a newest that get a delta to it.
-    std::vector<Base> BasesFor(NewItem const& newest, DeltaChoice const& choice) const;
+    std::vector<Base> BasesFor(NewItem const& newest, DeltaChoice const& choice);
+    void TellMissing(DeltaChoice const& choice) const;
     void TakeGiven(std::vector<NewItem>& items);
     void TakeGiven(NewItem& item, Base const& base, QString const& fileName);
     /// True if clients of its machine are offered nothing newer.
@@ -62,7 +66,9 @@ private:
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;
     std::vector<FolderArchive> const& m_archives;
-    std::vector<Base> m_bases; ///< newest first
+    std::vector<Base> m_bases;                        ///< newest first
+    std::set<std::pair<QString, QString>> m_declined; ///< files of items and bases with a delta that saves too little
+    std::set<QString> m_missing;                      ///< versions that clients run, but no base has
     std::vector<std::unique_ptr<AtomicFile>> m_made;
 };
 

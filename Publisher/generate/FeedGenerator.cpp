@@ -5,6 +5,7 @@
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
 #include "Publisher/gate/FeedLength.h"
+#include "Publisher/gate/PrivateKeys.h"
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/generate/PublishedArchives.h"
@@ -41,6 +42,13 @@ std::int64_t MomentOfPublication()
     {
         throw Refusal({u"SOURCE_DATE_EPOCH is \"%1\""_s.arg(QString::fromLocal8Bit(text)),
                        u"give the seconds since 1970, or unset it"_s});
+    }
+    constexpr qint64 A_DAY = 86400;
+    if (seconds > QDateTime::currentSecsSinceEpoch() + A_DAY)
+    {
+        throw Refusal({u"SOURCE_DATE_EPOCH is %1, which is in the future"_s.arg(
+                           QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate)),
+                       u"give the seconds since 1970, or set the clock"_s});
     }
     return text.isEmpty() ? QDateTime::currentSecsSinceEpoch() : seconds;
 }
@@ -185,7 +193,8 @@ public:
             recompressed.AddTo(items);
         }
         DeltaStage deltas(m_workplace, feed, archives);
-        deltas.AddTo(items, {m_request.deltaCount, ClientsOf(m_request), m_request.deltaEffort});
+        deltas.AddTo(items, {m_request.deltaCount, QString::fromStdString(m_request.clientsFile), ClientsOf(m_request),
+                             m_request.deltaEffort});
         std::stable_sort(items.begin(), items.end(),
                          [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
         if (items.empty() && m_isNew)
@@ -241,7 +250,11 @@ private:
     {
         RefusalList refusals;
         PublishedArchives published(m_workplace, feed);
-        std::vector<FolderArchive> const fresh = published.FindNew(archives, refusals);
+        std::vector<FolderArchive> fresh = published.FindNew(archives, refusals);
+        if (m_request.isRecompressed)
+        {
+            RemoveRecompressed(m_workplace, fresh);
+        }
         bool const hasNewVersion =
             std::any_of(fresh.begin(), fresh.end(),
                         [](FolderArchive const& archive) { return archive.kind != ArchiveKind::Delta; });
@@ -252,9 +265,35 @@ private:
             ArchiveIntake intake(m_workplace, feed, isSigned ? FeedSignature::Present : FeedSignature::Missing,
                                  published.Versions(refusals));
             items = intake.Take(fresh, refusals);
+            CheckFolder(intake.Versions(), refusals);
+        }
+        else
+        {
+            CheckFolder(VersionsOf(feed), refusals);
         }
         refusals.ThrowIfAny();
         return items;
+    }
+
+    /// As the feed describes them.
+    static std::vector<GatedVersion> VersionsOf(PublishedFeed const& feed)
+    {
+        std::vector<GatedVersion> versions;
+        for (PublishedItem const& published : feed.Items())
+        {
+            versions.push_back(VersionOf(published.item, *published.platforms.begin(), feed.Name()));
+        }
+        return versions;
+    }
+
+    void CheckFolder(std::vector<GatedVersion> const& versions, RefusalList& refusals) const
+    {
+        std::set<QString> ids = KnownKeyIds(versions);
+        for (QString const& id : m_workplace.KeyIds())
+        {
+            ids.insert(id);
+        }
+        refusals.Try([&] { CheckFolderForKeys(m_workplace.folder, ids, refusals); });
     }
 
     /// The feed with \a items, signed if needed.

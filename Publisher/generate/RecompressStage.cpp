@@ -5,6 +5,8 @@
 #include "Publisher/late/LatePart.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
@@ -13,11 +15,47 @@ namespace
 
 constexpr char ENDING[] = ".tar.zst";
 
+bool IsSame(BundleTree const& a, BundleTree const& b)
+{
+    return a.Name() == b.Name() && a.Digest() == b.Digest();
+}
+
+/// True for two archives of one bundle for Linux. Others are reported when they are published.
+bool HaveSameBundle(Workplace const& place, QString const& a, QString const& b)
+{
+    RefusalList passedOver;
+    bool isSame = false;
+    static_cast<void>(passedOver.Try(
+        [&]
+        {
+            std::shared_ptr<BundleTree const> const first = place.Unpack(a);
+            isSame = first->Platform() == Engine::FeedPlatform::Linux && IsSame(*first, *place.Unpack(b));
+        }));
+    return isSame;
+}
+
 } // namespace
 
 bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes)
 {
     return bytes <= archiveBytes && archiveBytes - bytes >= (archiveBytes + 9) / 10;
+}
+
+void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh)
+{
+    auto const isMade = [&](FolderArchive const& archive)
+    {
+        return std::any_of(fresh.begin(), fresh.end(),
+                           [&](FolderArchive const& other)
+                           {
+                               return other.kind == ArchiveKind::Bundle && other.fileName != archive.fileName &&
+                                      other.stem + QLatin1String(ENDING) == archive.fileName &&
+                                      HaveSameBundle(place, other.fileName, archive.fileName);
+                           });
+    };
+    std::vector<FolderArchive> rest;
+    std::copy_if(fresh.begin(), fresh.end(), std::back_inserter(rest), std::not_fn(isMade));
+    fresh = std::move(rest);
 }
 
 void RecompressStage::AddTo(std::vector<NewItem>& items)
@@ -27,39 +65,59 @@ void RecompressStage::AddTo(std::vector<NewItem>& items)
         auto const archive =
             std::find_if(m_archives.begin(), m_archives.end(),
                          [&item](FolderArchive const& each) { return each.fileName == item.fileName; });
-        if (IsBundleForLinux(item) && archive != m_archives.end() && !item.fileName.endsWith(QLatin1String(ENDING)))
+        if (!IsBundleForLinux(item) || archive == m_archives.end() || item.fileName.endsWith(QLatin1String(ENDING)))
         {
-            Pack(item, archive->stem);
+            continue;
+        }
+        QString const fileName = archive->stem + QLatin1String(ENDING);
+        if (!Exists(m_workplace.PathOf(fileName)))
+        {
+            Pack(item, fileName);
+        }
+        else if (!Take(item, fileName, m_workplace.Open(fileName)))
+        {
+            throw Refusal({m_workplace.PathOf(fileName), u"saves less than a tenth of %1"_s.arg(item.fileName),
+                           u"remove it, or leave out --recompress"_s},
+                          RefusalCause::Content);
         }
     }
 }
 
-void RecompressStage::Pack(NewItem& item, QString const& stem)
+void RecompressStage::Pack(NewItem& item, QString const& fileName)
 {
-    QString const fileName = stem + QLatin1String(ENDING);
     QString const path = m_workplace.PathOf(fileName);
     std::unique_ptr<AtomicFile> file = m_workplace.MakeFile(fileName);
-    std::shared_ptr<BundleTree const> const unpacked = m_workplace.Unpack(item.fileName);
-    BundleTree const& bundle = *unpacked;
     {
+        std::shared_ptr<BundleTree const> const bundle = m_workplace.Unpack(item.fileName);
         Progress bar(m_workplace.console.err, u"Packing "_s + fileName);
-        LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, std::ref(bar));
+        LoadLatePart().writeZstdTar(*bundle, item.publishedAt, file->Descriptor(), path, std::ref(bar));
     }
-    InputFile const made = file->ForReading();
-    if (!SavesEnough(made.size, item.signature.length))
+    if (!Take(item, fileName, file->ForReading()))
     {
         m_workplace.Warn(path, u"not published: saves less than a tenth of the archive"_s,
                          u"no action is needed; clients download the archive"_s);
         return;
     }
-    // Clients must get exactly the bundle that was judged.
-    BundleTree const again = BundleTree::Unpack(made, [](std::uint64_t, std::uint64_t) {});
-    if (again.Name() != bundle.Name() || again.Digest() != bundle.Digest())
-    {
-        throw Refusal({path, u"contains another bundle than %1"_s.arg(item.fileName), u"leave out --recompress"_s});
-    }
-    item.recompressed = NewArchive{fileName, m_workplace.Sign(made)};
     m_made.push_back(std::move(file));
+}
+
+bool RecompressStage::Take(NewItem& item, QString const& fileName, InputFile const& archive) const
+{
+    // Clients must get exactly the bundle that was judged.
+    std::shared_ptr<BundleTree const> const bundle = m_workplace.Unpack(item.fileName);
+    if (!SavesEnough(archive.size, item.signature.length))
+    {
+        return false;
+    }
+    BundleTree const again = BundleTree::Unpack(archive, [](std::uint64_t, std::uint64_t) {});
+    if (!IsSame(again, *bundle))
+    {
+        throw Refusal({archive.name, u"contains another bundle than %1"_s.arg(item.fileName),
+                       u"remove it, or leave out --recompress"_s},
+                      RefusalCause::Content);
+    }
+    item.recompressed = NewArchive{fileName, m_workplace.Sign(archive)};
+    return true;
 }
 
 } // namespace Pelnar::Publisher

@@ -14,6 +14,10 @@ namespace Pelnar::Publisher
 /// True if a download of \a bytes saves a tenth of one of \a archiveBytes. Less is not worth another file.
 [[nodiscard]] bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes);
 
+/// Removes from \a fresh, the archives that are not published, each one that RecompressStage would make from another
+/// one there. An interrupted run may have left it.
+void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh);
+
 class RecompressStage
 {
 public:
@@ -24,14 +28,17 @@ public:
     }
 
     /// Adds a tar of the same bundle, packed by zstd, to each bundle for Linux among \a items, if that saves a tenth.
-    /// The files appear in the folder only with the feed. Throws Refusal.
+    /// The files appear in the folder only with the feed. A file with the name is taken if it contains the same bundle.
+    /// Throws Refusal.
     void AddTo(std::vector<NewItem>& items);
 
     /// The created files, which have no names yet.
     std::vector<std::unique_ptr<AtomicFile>>& Made() { return m_made; }
 
 private:
-    void Pack(NewItem& item, QString const& stem);
+    void Pack(NewItem& item, QString const& fileName);
+    /// Adds \a archive, which must contain the bundle of \a item. Returns false if it saves too little.
+    [[nodiscard]] bool Take(NewItem& item, QString const& fileName, InputFile const& archive) const;
 
     Workplace const& m_workplace;
     std::vector<FolderArchive> const& m_archives;

@@ -34,7 +34,12 @@ TEST(Generate, DeltasLeadFromTheVersionsThatMostClientsRun)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("# of last week\n1.10 3\n\n0.9  70\n1.0\t25.5\n2.0 90\n1.9 20\n");
     file.close();
-    folder.GeneratedFeed({QStringLiteral("--deltas"), QStringLiteral("2"), QStringLiteral("--clients"), clients});
+    ToolRun const run =
+        folder.Generate({QStringLiteral("--deltas"), QStringLiteral("2"), QStringLiteral("--clients"), clients});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("clients: no delta is made from 0.9: the folder has no published archive"),
+              std::string::npos)
+        << run.err;
     std::vector<Engine::FeedItem> const items = folder.Items();
     ASSERT_EQ(items.size(), 4u);
     ASSERT_EQ(items[0].deltas.size(), 2u) << "0.9 is not in the folder, and 2.0 is the newest";
@@ -222,6 +227,18 @@ TEST_P(DeltaSize, MadeDeltaIsPublishedOnlyWhenItSavesATenth)
               GetParam().deltas == 0)
         << run.err;
     EXPECT_EQ(QFile::exists(folder.PathOf("Test-1.0-2.0.delta")), GetParam().deltas == 1);
+}
+
+TEST(Generate, GivenDeltaThatIsLeftOutIsNotMadeAgain)
+{
+    PublisherFolder const folder;
+    PutVersionsThatShareNothing(folder, -1);
+    folder.Put("Test-1.0-2.0.delta", folder.ContentOf("given.delta")); // the name of a delta that is made
+    folder.Remove("given.delta");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-1.0-2.0.delta: ignored: saves less than a tenth"), std::string::npos) << run.err;
+    EXPECT_TRUE(folder.Items()[0].deltas.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, DeltaSize,

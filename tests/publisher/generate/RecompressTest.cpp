@@ -235,13 +235,47 @@ TEST_F(Recompress, FileOfThatNameIsNotReplaced)
     EXPECT_EQ(folder.Items().size(), 1u);
 }
 
+TEST_F(Recompress, FileThatAnEndedRunHasLeftIsTaken)
+{
+    PutZip(folder, "1.0");
+    PutZip(folder, "2.0");
+    ASSERT_EQ(folder.Generate(RECOMPRESS).status, 0);
+    std::string const feed = folder.ContentOf("appcast.xml");
+    std::string const packed = folder.ContentOf("Test-2.0.tar.zst");
+    folder.Remove("appcast.xml"); // with the names of the files, and before that of the feed
+    ToolRun run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+    EXPECT_EQ(folder.ContentOf("Test-2.0.tar.zst"), packed);
+    // That of an earlier zip of the same version is not.
+    folder.Remove("appcast.xml");
+    PutZip(folder, "2.0", Repetition::None);
+    run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find("Test-2.0.zip: has the version 2.0, and so has Test-2.0.tar.zst"), std::string::npos)
+        << run.err;
+}
+
+TEST_F(Recompress, ArchivesOfTwoSystemsMayHaveOneName)
+{
+    BundleText text;
+    text.version = "2.0";
+    folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, MakeMacBundle(text)));
+    folder.Put("Test-2.0.tar.zst", MakeArchive(Container::TarZstandard, BundleOf("2.0", Repetition::Much)));
+    ToolRun const run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(folder.Items(Engine::FeedPlatform::Linux).size(), 1u);
+    EXPECT_EQ(folder.Items(Engine::FeedPlatform::MacOS).size(), 1u);
+}
+
 TEST_F(Recompress, TwoKeysAndAMachineMakeAFeedThatCanBeRead)
 {
     PutZip(folder, "2.0");
-    folder.Put("second-key", Base64(std::string(32, '\x9')));
-    ASSERT_TRUE(QFile::setPermissions(folder.PathOf("second-key"), QFile::ReadOwner | QFile::WriteOwner));
-    ToolRun const run =
-        folder.Generate(RECOMPRESS + QStringList{QStringLiteral("--second-key"), folder.PathOf("second-key")});
+    Workspace const besides;
+    QString const second = QString::fromStdString(besides.Path() + "/second-key");
+    WriteFile(second.toStdString(), Base64(std::string(32, '\x9')));
+    ASSERT_TRUE(QFile::setPermissions(second, QFile::ReadOwner | QFile::WriteOwner));
+    ToolRun const run = folder.Generate(RECOMPRESS + QStringList{QStringLiteral("--second-key"), second});
     EXPECT_EQ(run.status, 0) << run.out << run.err;
     ASSERT_EQ(folder.Items().size(), 1u);
     EXPECT_EQ(folder.Items()[0].signatures.size(), 2u);

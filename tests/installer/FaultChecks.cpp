@@ -2,6 +2,7 @@
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/delta/ForgedProgram.h"
 #include "tests/delta/PackedFiles.h"
 
 #include <gtest/gtest.h>
@@ -32,11 +33,21 @@ std::vector<ForgedEntry> MakeBundleForDeltas(std::string const& version)
     std::vector<ForgedEntry> entries = MakeBundle(version);
     std::string blob = Noise(1, 20000);
     blob.replace(5000, 3, version);
-    std::string words = WordsOf(1, 9000);
-    words.replace(500, 3, version);
+    // The new words are repeated later, so zlib makes other tokens of unchanged text.
+    std::string words = WordsOf(1, 40000);
+    for (std::size_t const place : {3000, 18000})
+    {
+        words.replace(place, 12, version == "1.0" ? std::string(12, '-') : words.substr(place + 9000, 12));
+    }
+    ProgramShape shape;
+    shape.functions = 40;
+    shape.insertedAt = 10;
+    shape.insertedBytes = version == "1.0" ? 0 : 32;
+    Engine::ByteBuffer const program = ForgeProgram(shape);
     entries.push_back({resources + "blob", 'f', blob});
     entries.push_back({resources + "same", 'f', Noise(2, 500)});
     entries.push_back({resources + "moved-" + version, 'f', Noise(3, 700)});
+    entries.push_back({resources + "program", 'f', std::string(program.begin(), program.end())});
     entries.push_back({resources + "words.gz", 'f', GzipOf(words)});
     return entries;
 }

@@ -4,6 +4,7 @@
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "Engine/core/delta/ManifestBytes.h"
 #include "tests/delta/SeparateDelta.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/FaultChecks.h"
@@ -11,8 +12,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <tuple>
 
 #include <sys/stat.h>
@@ -47,6 +50,63 @@ TEST_P(RightDeltas, ArePreparedAndInstalled)
 INSTANTIATE_TEST_SUITE_P(Formats, RightDeltas, testing::Values(&DeltaToTheNextVersion, &RightSeparateDelta),
                          [](testing::TestParamInfo<std::string (*)()> const& info)
                          { return info.index == 0 ? "Joined" : "Separate"; });
+
+/// The unpacked extra stream of the container open at \a fd.
+ByteBuffer ExtraStreamOf(int fd, DeltaManifest const& manifest, std::uint64_t dataOffset)
+{
+    constexpr std::size_t MOST_BYTES = 100000;
+    for (std::size_t i = 0; i + 1 < PATCH_STREAMS; ++i)
+    {
+        dataOffset += manifest.streams[i].size;
+    }
+    DeltaStream stream(fd, dataOffset, manifest.streams.back(), EXTRA_WINDOW_LOG);
+    ByteBuffer bytes(MOST_BYTES);
+    bytes.resize(stream.Read(bytes.data(), bytes.size()));
+    EXPECT_TRUE(stream.IsAtEnd());
+    return bytes;
+}
+
+/// The faults of the helper are tried with this delta, so it must lead through all of the code.
+TEST(DeltaToTheNextVersion, HasEveryKindOfFileAndCorrectedTokens)
+{
+    constexpr std::uint8_t CORRECTS_TOKENS = 32;
+    std::string const delta = DeltaToTheNextVersion();
+    EXPECT_EQ(delta[8], 4) << "the version of the format";
+    Workspace const place;
+    UniqueFd const container = WriteFile(place.Path() + "/delta", delta);
+    DeltaManifest manifest;
+    std::uint64_t dataOffset = 0;
+    ASSERT_TRUE(ReadDeltaManifest(container.Get(), {}, manifest, dataOffset).HasSucceeded());
+    std::set<DeltaEntryKind> kinds;
+    std::set<bool> keptInTheirPlace;
+    for (DeltaEntry const& entry : manifest.entries)
+    {
+        kinds.insert(entry.kind);
+        if (entry.kind == DeltaEntryKind::Kept)
+        {
+            keptInTheirPlace.insert(entry.sourcePath == entry.path);
+        }
+    }
+    EXPECT_EQ(kinds.size(), 5u);
+    EXPECT_EQ(keptInTheirPlace, (std::set<bool>{false, true}));
+    auto const count = [&manifest](auto const& isWanted)
+    { return std::count_if(manifest.units.begin(), manifest.units.end(), isWanted); };
+    EXPECT_EQ(count([](DeltaUnit const& unit) { return unit.textBytes > 0; }), 1);
+    EXPECT_EQ(count([](DeltaUnit const& unit) { return !unit.spanChanges.empty() && unit.spanChanges[0].size != 0; }),
+              1);
+
+    ByteBuffer const extra = ExtraStreamOf(container.Get(), manifest, dataOffset);
+    std::string const text(extra.begin(), extra.end());
+    std::size_t const recipe = text.find("\x0A\x1F\x8B\x08"); // the number of bytes of the header, and the header
+    ASSERT_NE(recipe, std::string::npos);
+    ManifestBytes::Reader reader(View(extra).substr(recipe));
+    static_cast<void>(reader.Raw(reader.Number()));
+    EXPECT_EQ(reader.Byte(), CORRECTS_TOKENS + 9);
+    static_cast<void>(reader.Byte()); // the memory level
+    EXPECT_GT(reader.Number(), 4u) << "numbers of the corrections";
+    EXPECT_GT(reader.Number(), 0u) << "corrections of the first run";
+    EXPECT_EQ(reader.Error(), DeltaManifestError::None);
+}
 
 class EvilTreeOfADelta : public testing::TestWithParam<std::tuple<Evil, DeltaFormat>>
 {

@@ -4,6 +4,7 @@
 
 #include "Engine/core/delta/BinaryPatch.h"
 #include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/delta/ManifestBytes.h"
 #include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/StreamUnpacker.h"
@@ -149,22 +150,46 @@ void CheckStream(Bytes bytes)
     }
 }
 
-/// The input as corrections of a packed text.
+/// A text with two changes, so that it has three runs that equal the old text.
+struct ChangedText
+{
+    std::string before = Pelnar::Testing::WordsOf(3, 60000);
+    std::string after =
+        before.substr(0, 20000) + "changed" + before.substr(20007, 20000) + "again" + before.substr(40012);
+    std::string file = Pelnar::Testing::GzipOf(before);
+    PackedBase base{
+        ViewOf(before), PackedDataOf(ViewOf(file)), {{20000, 7, 14}, {20000, 5, 10}, {before.size() - 40012, 0, 0}}};
+
+    static Bytes ViewOf(std::string const& text)
+    {
+        return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
+    }
+};
+
+/// The input as corrections of a packed text, and as the end of a recipe with corrections.
 void CheckCorrections(Bytes bytes)
 {
-    static std::string const words = Pelnar::Testing::WordsOf(3, 40000);
-    static std::string const file = Pelnar::Testing::GzipOf(words);
-    static Bytes const text(reinterpret_cast<std::uint8_t const*>(words.data()), words.size());
-    static Bytes const data = PackedDataOf({reinterpret_cast<std::uint8_t const*>(file.data()), file.size()});
-    TokenCorrections const corrections(bytes.begin(), bytes.end());
-    std::optional<DeflateTokens> const tokens =
-        CorrectedTokens({text, data, {{text.size(), 0, 0}}}, text, {9, 8}, corrections);
+    static ChangedText const changed;
+    Bytes const text = ChangedText::ViewOf(changed.after);
+    ManifestBytes::Reader reader(bytes);
+    TokenCorrections corrections;
+    while (!reader.IsAtEnd())
+    {
+        corrections.push_back(reader.Number());
+    }
+    std::optional<DeflateTokens> const tokens = CorrectedTokens(changed.base, text, {9, 8}, corrections);
     std::size_t sum = 0;
     for (DeflateToken const token : tokens.value_or(DeflateTokens()))
     {
         sum += token.length > 0 ? token.length : 1u;
     }
     Require(!tokens || sum == text.size());
+
+    constexpr std::uint8_t CORRECTS_TOKENS = 32;
+    ByteBuffer recipe{0, CORRECTS_TOKENS + 6, 8};
+    recipe.insert(recipe.end(), bytes.begin(), bytes.end());
+    std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), text, changed.file.size(), changed.base);
+    Require(!made || made->size() <= changed.file.size());
 }
 
 /// The input as a gzip file, as a recipe, and as the data after the start of a valid one.

@@ -15,6 +15,7 @@ using namespace ManifestBytes;
 
 constexpr std::uint8_t EXECUTABLE_KIND = 0x10;             ///< added to a file's kind if it is executable
 constexpr std::uint64_t PACKED_TEXT = MAX_IMAGE_SPANS + 1; ///< in the place of a number of segments
+constexpr std::uint64_t MAX_SOURCE_PATH_BYTES = 32u << 20; ///< of all units
 constexpr std::uint8_t MOST_PACKINGS = 225;                ///< properties of LZMA are below this
 
 /// A kept file has the size of the old file, which both sides can look up.
@@ -195,15 +196,34 @@ void AppendUnit(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath 
     }
 }
 
-DeltaUnit ReadUnit(Reader& reader, DeltaLimits const& limits, DeltaManifest const& manifest)
+/// What the units that are not read yet may have together. A few bytes may name a long path, or many targets.
+struct UnitsLeft
+{
+    std::uint64_t sources;
+    std::uint64_t pathBytes;
+    std::uint64_t targets;
+};
+
+DeltaUnit ReadUnit(Reader& reader, UnitsLeft& left, DeltaManifest const& manifest)
 {
     DeltaUnit unit;
-    std::uint64_t const sources = reader.Count(limits.tree.maxEntries);
+    std::uint64_t const sources = reader.Count(left.sources);
+    left.sources -= sources;
     for (std::uint64_t i = 0; i < sources && reader.Error() == DeltaManifestError::None; ++i)
     {
-        unit.sources.push_back(ReadSource(reader, manifest));
+        std::string const& path = unit.sources.emplace_back(ReadSource(reader, manifest)).path;
+        if (path.size() > left.pathBytes)
+        {
+            reader.Fail(DeltaManifestError::TextTooLong);
+        }
+        left.pathBytes -= std::min<std::uint64_t>(path.size(), left.pathBytes);
     }
-    std::uint64_t const targets = reader.Count(manifest.entries.size());
+    std::uint64_t const targets = reader.Number();
+    if (targets > left.targets)
+    {
+        reader.Fail(DeltaManifestError::BadUnit);
+    }
+    left.targets -= std::min(targets, left.targets);
     std::uint64_t next = 0;
     for (std::uint64_t i = 0; i < targets && reader.Error() == DeltaManifestError::None; ++i)
     {
@@ -237,23 +257,31 @@ DeltaManifestVerdict BadUnit(std::string const& path)
     return {DeltaManifestError::BadUnit, UpdateFault::None, path};
 }
 
-DeltaManifestVerdict CheckSources(DeltaUnit const& unit, DeltaLimits const& limits, std::uint64_t& sources)
+/// The sources of all units so far.
+struct SourceSum
 {
-    std::uint64_t bytes = 0;
+    std::uint64_t count = 0;
+    std::uint64_t pathBytes = 0;
+    std::uint64_t bytes = 0; ///< each unit may make the applier read all of its sources
+};
+
+DeltaManifestVerdict CheckSources(DeltaUnit const& unit, DeltaLimits const& limits, SourceSum& sum)
+{
     for (DeltaSource const& source : unit.sources)
     {
         if (!IsBelow(source.path))
         {
             return {DeltaManifestError::BadSource, UpdateFault::None, source.path};
         }
-        if (source.size > limits.tree.maxBytes || bytes + source.size > limits.tree.maxBytes)
+        if (source.size > limits.tree.maxBytes - sum.bytes)
         {
             return {DeltaManifestError::TooManyBytes, UpdateFault::None, source.path};
         }
-        bytes += source.size;
+        sum.bytes += source.size;
+        sum.pathBytes += source.path.size();
     }
-    sources += unit.sources.size();
-    bool const isTooMuch = sources > limits.tree.maxEntries;
+    sum.count += unit.sources.size();
+    bool const isTooMuch = sum.count > limits.tree.maxEntries || sum.pathBytes > MAX_SOURCE_PATH_BYTES;
     return {isTooMuch ? DeltaManifestError::TooManyEntries : DeltaManifestError::None, UpdateFault::None, {}};
 }
 
@@ -297,16 +325,17 @@ void ReadJoinedManifest(Reader& reader, DeltaLimits const& limits, DeltaManifest
     ReadEntries(reader, limits, manifest.entries);
     std::uint64_t const units = reader.Count(manifest.entries.size());
     manifest.units.clear();
+    UnitsLeft left{limits.tree.maxEntries, MAX_SOURCE_PATH_BYTES, manifest.entries.size()};
     for (std::uint64_t i = 0; i < units && reader.Error() == DeltaManifestError::None; ++i)
     {
-        manifest.units.push_back(ReadUnit(reader, limits, manifest));
+        manifest.units.push_back(ReadUnit(reader, left, manifest));
     }
 }
 
 DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const& limits)
 {
     std::vector<bool> isMade(manifest.entries.size());
-    std::uint64_t sources = 0;
+    SourceSum sources;
     for (DeltaUnit const& unit : manifest.units)
     {
         if (DeltaManifestVerdict verdict = CheckSources(unit, limits, sources);
@@ -325,7 +354,11 @@ DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const
             isMade[target] = true;
         }
         bool const isOfOne = !unit.spanChanges.empty() || unit.textBytes > 0;
-        if (isOfOne && (unit.sources.size() != 1 || unit.targets.size() != 1))
+        bool const isOne = unit.sources.size() == 1 && unit.targets.size() == 1;
+        // The recipe of a packed text is in memory, and may be as large as the file.
+        bool const isLarge =
+            unit.textBytes > 0 && isOne && manifest.entries[unit.targets.front()].size > MAX_PACKED_TEXT_BYTES;
+        if ((isOfOne && !isOne) || isLarge)
         {
             return BadUnit({});
         }

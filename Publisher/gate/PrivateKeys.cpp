@@ -4,13 +4,13 @@
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Publisher/keys/Signer.h"
 
-#include <QDir>
+#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
-#include <functional>
+#include <filesystem>
 #include <string_view>
 
 #include <fcntl.h>
@@ -20,6 +20,8 @@ namespace Pelnar::Publisher
 {
 namespace
 {
+
+namespace fs = std::filesystem;
 
 constexpr std::size_t SEED_BYTES = crypto_sign_ed25519_SEEDBYTES;
 constexpr std::size_t SECRET_BYTES = crypto_sign_ed25519_SECRETKEYBYTES;
@@ -192,33 +194,20 @@ void AddKeysOf(GatedVersion const& version, std::set<QString>& ids)
     }
 }
 
-/// Calls \a found with the path of each small file below \a folder that holds a
-/// private key. Messages call the folder \a name. Throws Refusal for a file
-/// that cannot be read.
-void FindKeys(int folder, QString const& name, std::function<bool(std::string const&)> const& isKey,
-              std::function<void(QString const&)> const& found)
+/// The content of \a file, if a file of \a size bytes may hold a key. Empty, with errno set, if it cannot be read.
+std::optional<std::string> ContentOf(Engine::UniqueFd const& file, off_t size)
 {
-    auto const visit = [&](std::string const& path, int parent, std::string const& entry, struct stat const& status)
+    if (size < off_t(SEED_BYTES) || size > MOST_FILE_BYTES)
     {
-        if (!S_ISREG(status.st_mode) || status.st_size < off_t(SEED_BYTES) || status.st_size > MOST_FILE_BYTES)
-        {
-            return;
-        }
-        Engine::UniqueFd const file(::openat(parent, entry.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-        auto const content = file ? Engine::ReadStart(file.Get(), MOST_FILE_BYTES) : std::nullopt;
-        if (!content)
-        {
-            RefuseReading(name + u'/' + QFile::decodeName(path.c_str()), errno);
-        }
-        if (isKey(*content))
-        {
-            found(QFile::decodeName(path.c_str()));
-        }
-    };
-    if (!Engine::WalkTree(folder, visit))
-    {
-        RefuseReading(name, errno);
+        return std::string();
     }
+    return file ? Engine::ReadStart(file.Get(), MOST_FILE_BYTES) : std::nullopt;
+}
+
+/// True if this user may not read something: then this user does not upload it.
+bool IsForbidden(int errorNumber)
+{
+    return errorNumber == EACCES || errorNumber == ENOENT;
 }
 
 } // namespace
@@ -240,40 +229,71 @@ void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std
     AddKeysOf(version, knownIds);
     knownIds.erase(QString());
     KeySearch const search(std::move(knownIds));
-    QString const name = QString::fromStdString(bundle.Name()) + u'/';
-    FindKeys(
-        bundle.Descriptor(), version.path + u'/' + QString::fromStdString(bundle.Name()),
-        [&](std::string const& content) { return search.Finds(content); },
-        [&](QString const& path)
+    auto const visit = [&](std::string const& path, int folder, std::string const& entry, struct stat const& status)
+    {
+        if (!S_ISREG(status.st_mode))
+        {
+            return;
+        }
+        QString const name = QString::fromStdString(bundle.Name() + '/' + path);
+        Engine::UniqueFd const file(::openat(folder, entry.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+        auto const content = ContentOf(file, status.st_size);
+        if (!content)
+        {
+            RefuseReading(version.path + u'/' + name, errno);
+        }
+        if (search.Finds(*content))
         {
             refusals.Add(
                 {version.path,
                  u"contains a private key, so everybody who downloads the archive could sign updates with it: \"%1\""_s
-                     .arg(name + path),
+                     .arg(name),
                  u"remove the file and pack the archive again; "_s + MEND_OF_PUBLISHED});
-        });
+        }
+    };
+    if (!Engine::WalkTree(bundle.Descriptor(), visit))
+    {
+        RefuseReading(version.path, errno);
+    }
 }
 
 void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals)
 {
-    Engine::UniqueFd const opened(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!opened)
-    {
-        RefuseReading(folder, errno);
-    }
     KeySearch const search(std::move(knownIds));
-    // A small archive may contain the test key of a server.
-    auto const isText = [](std::string const& content) { return content.find('\0') == std::string::npos; };
-    FindKeys(
-        opened.Get(), folder,
-        [&](std::string const& content)
-        { return (isText(content) && !MarkedKeys(content).empty()) || search.Finds(content); },
-        [&](QString const& path)
+    std::error_code error;
+    fs::recursive_directory_iterator entry(QFile::encodeName(folder).toStdString(),
+                                           fs::directory_options::skip_permission_denied, error);
+    for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error))
+    {
+        std::error_code ignored; // an entry that vanishes is no file
+        fs::file_status const status = entry->symlink_status(ignored);
+        if (fs::is_directory(status) && entry->path().filename().native().front() == '.')
         {
-            refusals.Add({QDir(folder).filePath(path),
-                          u"contains a private key, and everything in this folder is uploaded"_s,
+            entry.disable_recursion_pending(); // as of a version control system
+        }
+        if (!fs::is_regular_file(status))
+        {
+            continue;
+        }
+        QString const path = QFile::decodeName(entry->path().c_str());
+        Engine::UniqueFd const file(::open(entry->path().c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+        auto const content = ContentOf(file, off_t(entry->file_size(ignored)));
+        if (!content && !IsForbidden(errno))
+        {
+            RefuseReading(path, errno);
+        }
+        // A small archive may contain the test key of a server.
+        bool const isText = content && content->find('\0') == std::string::npos;
+        if (content && ((isText && !MarkedKeys(*content).empty()) || search.Finds(*content)))
+        {
+            refusals.Add({path, u"contains a private key, and everything in this folder is uploaded"_s,
                           u"move it to another folder; "_s + MEND_OF_PUBLISHED});
-        });
+        }
+    }
+    if (error)
+    {
+        RefuseReading(folder, error.value());
+    }
 }
 
 } // namespace Pelnar::Publisher

@@ -19,6 +19,7 @@ void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std
                       RefusalList& refusals);
 
 /// The same for the files of a folder that is uploaded, and below it. A private key in PEM counts there for any use.
+/// Hidden folders and what this user may not read are left out.
 void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals);
 
 } // namespace Pelnar::Publisher

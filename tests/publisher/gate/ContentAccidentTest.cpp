@@ -250,6 +250,8 @@ TEST_F(ContentAccident, PrivateKeyInTheFolderThatIsUploaded)
     }
     m_folder.Put("Test-2.0.zip.sha256", Base64(std::string(32, FOREIGN_SEED)) + '\n');
     m_folder.Put("Test.pub", MakeKeyPair(OWN_SEED).publicKey + '\n');
+    std::filesystem::create_directories(m_folder.Path() + "/.git");
+    m_folder.Put(".git/key", seed);
     EXPECT_EQ(Generate().status, 0);
 }
 

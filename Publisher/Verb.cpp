@@ -1,6 +1,9 @@
 #include "Publisher/Verb.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
+#include <memory>
 #include <ostream>
 #include <sstream>
 
@@ -122,6 +125,30 @@ UnknownWord Unknown(CLI::App const& verb, std::string const& word, bool isVerbWa
     return {'"' + word + (isVerbWanted ? "\" is not a verb" : "\" is one argument too many"), MeantBy(word, names)};
 }
 
+/// The library's message about a value, as this program says it.
+QString Reworded(QString const& message)
+{
+    struct Wording
+    {
+        QRegularExpression theirs;
+        QString ours;
+    };
+    static std::vector<Wording> const WORDINGS{
+        {QRegularExpression(u"^(\\S+): Value (.*) not in range (.*) to (.*)$"_s),
+         u"\\1: \"\\2\" is not a number from \\3 to \\4"_s},
+        {QRegularExpression(u"^(\\S+): (.*) not in \\{(.*)\\}$"_s), u"\\1: \"\\2\" is not one of \\3"_s},
+        {QRegularExpression(u"^(\\S+): 1 required (\\S+) missing$"_s), u"\\1: no \\2 is given"_s},
+    };
+    for (Wording const& wording : WORDINGS)
+    {
+        if (wording.theirs.match(message).hasMatch())
+        {
+            return QString(message).replace(wording.theirs, wording.ours);
+        }
+    }
+    return message;
+}
+
 ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& error, Console const& console)
 {
     if (error.get_exit_code() == int(CLI::ExitCodes::Success))
@@ -151,10 +178,23 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
     }
     std::string const help = understood + " --help";
     return console.Refuse(
-        {QString::fromStdString(problem.what),
+        {Reworded(QString::fromStdString(problem.what)),
          QString::fromStdString(problem.meant.empty() ? "see " + help
                                                       : "did you mean " + problem.meant + "? See " + help)});
 }
+
+/// Lists each verb in one line. The verb's own help has the rest of its description.
+class ShortList final : public CLI::Formatter
+{
+    std::string make_subcommand(CLI::App const* verb) const override
+    {
+        std::string const whole = verb->get_description();
+        std::ostringstream line;
+        CLI::detail::format_help(line, verb->get_name(), whole.substr(0, std::min(whole.find(". "), whole.find(": "))),
+                                 get_column_width());
+        return line.str();
+    }
+};
 
 /// What all verbs share. An empty value usually comes from an unset variable of a script, so no verb accepts one.
 void CompleteVerbs(CLI::App& app)
@@ -181,6 +221,7 @@ void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use
     CLI::App program("Makes, signs, checks and explains the feeds that applications update from.\nExit status: 0 no "
                      "problem, 1 problems found, 2 bad arguments or unreadable input.",
                      PROGRAM_NAME);
+    program.formatter(std::make_shared<ShortList>());
     program.require_subcommand(1);
     program.get_formatter()->label("SUBCOMMAND", "VERB");
     program.get_formatter()->label("Positionals", "Arguments");

@@ -79,7 +79,33 @@ TEST(AppcastProgram, NamesTheWordThatItDoesNotUnderstand)
     EXPECT_EQ(saidOf("serve . other"), "error: \"other\" is one argument too many; see pelnar-appcast serve --help\n");
     EXPECT_EQ(said({QStringLiteral("keys")}), "error: a verb is required; see pelnar-appcast keys --help\n");
     EXPECT_EQ(said({QStringLiteral("serve"), QStringLiteral("."), QStringLiteral("--port"), QStringLiteral("65536")}),
-              "error: --port: Value 65536 not in range 0 to 65535; see pelnar-appcast serve --help\n");
+              "error: --port: \"65536\" is not a number from 0 to 65535; see pelnar-appcast serve --help\n");
+    EXPECT_EQ(saidOf("generate . --deltas few"),
+              "error: --deltas: \"few\" is not a number from 0 to 100; see pelnar-appcast generate --help\n");
+    EXPECT_EQ(saidOf("generate . --effort some"),
+              "error: --effort: \"some\" is not one of low,usual,high; see pelnar-appcast generate --help\n");
+    EXPECT_EQ(saidOf("generate . --key"), "error: --key: no FILE is given; see pelnar-appcast generate --help\n");
+}
+
+TEST(AppcastProgram, ListsEachVerbInOneLine)
+{
+    std::istringstream help(RunTool({QStringLiteral("--help")}).out);
+    std::size_t verbs = 0;
+    bool isInList = false;
+    for (std::string line; std::getline(help, line);)
+    {
+        if (isInList && !line.empty())
+        {
+            ++verbs;
+            EXPECT_LE(line.size(), 120u) << line;
+            EXPECT_EQ(line.find(". "), std::string::npos) << line;
+        }
+        isInList = isInList || line == "Verbs:";
+    }
+    EXPECT_GT(verbs, 15u);
+    EXPECT_NE(
+        RunTool({QStringLiteral("sign-feed"), QStringLiteral("--help")}).out.find("A feed that was changed since"),
+        std::string::npos);
 }
 
 TEST(AppcastProgram, EmptyValueOfAnyOptionIsRefused)

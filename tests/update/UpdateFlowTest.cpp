@@ -258,6 +258,29 @@ TEST_F(UpdateFlowTest, ItemsWhoseVersionCannotBeReadAreComparedAFewTimes)
     EXPECT_EQ(host.unreadableVersions, 20);
 }
 
+/// An application's comparator writes two lines to the log for each of these.
+TEST_F(UpdateFlowTest, BoundsThatCannotBeReadAreComparedAFewTimes)
+{
+    QByteArray items;
+    for (int i = 0; i < 300; ++i)
+    {
+        QByteArray const number = QByteArray::number(i);
+        items += Signed(
+            ItemOf("5.1", "<sparkle:minimumUpdateVersion>a" + number +
+                              "</sparkle:minimumUpdateVersion><sparkle:minimumAutoupdateVersion>b" + number +
+                              "</sparkle:minimumAutoupdateVersion><sparkle:criticalUpdate sparkle:version='c" + number +
+                              "'/><sparkle:informationalUpdate><sparkle:version>d" + number +
+                              "</sparkle:version></sparkle:informationalUpdate>"));
+    }
+    items += Signed(ItemOf("5.3", "<sparkle:minimumUpdateVersion>5.2</sparkle:minimumUpdateVersion>"));
+    Publish(FeedWith(items));
+    LogCapture const log;
+    Run(CheckKind::Probe);
+    EXPECT_EQ(host.unreadableVersions, 20);
+    EXPECT_EQ(log.Texts().back(), "The feed has 880 more versions that cannot be read");
+    EXPECT_EQ(host.itemCount, 300u) << "a plain version counts, even after those";
+}
+
 TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
 {
     Publish(FeedWith(ItemOf("5.1")));

@@ -65,7 +65,11 @@ void DropNearerLinks(FeedItem& item, AddressReach feedReach)
 } // namespace
 
 CheckRun::CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now)
-    : m_kind(kind), m_settings(std::move(settings)), m_host(host), m_now(std::move(now))
+    : m_kind(kind)
+    , m_settings(std::move(settings))
+    , m_host(host)
+    , m_now(std::move(now))
+    , m_order([this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); })
 {
 }
 
@@ -268,29 +272,26 @@ void CheckRun::ApplyPolicy()
     {
         installation.rolloutGroup = m_settings.rolloutGroup;
     }
-    VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
+    VersionOrder const order = [this](QString const& a, QString const& b) { return m_order.Compare(a, b); };
     LeaveOut(m_items, installation, order);
     int defects = 0;
-    int unreadable = 0;
     for (FeedItem const& item : m_items)
     {
         char const* const defect = DefectOf(item);
-        // A comparator writes to the log for each text that it cannot read, and takes it as equal.
-        bool const isCompared = defect && !item.versionString.isEmpty() && !m_settings.bundleVersion.isEmpty() &&
-                                item.versionString != m_settings.bundleVersion && unreadable < MAX_LOGGED_ITEMS;
-        int const newer = isCompared ? order(item.versionString, m_settings.bundleVersion) : 0;
-        unreadable += isCompared && newer == 0 ? 1 : 0;
-        LOG_IF(WARNING, newer > 0 && ++defects <= MAX_LOGGED_ITEMS)
+        bool const isMissed = defect && order(item.versionString, m_settings.bundleVersion) > 0;
+        LOG_IF(WARNING, isMissed && ++defects <= MAX_LOGGED_ITEMS)
             << "The feed's item " << EscapedRemoteText(item.versionString).toStdString()
             << " cannot be offered, because " << defect;
     }
     LOG_IF(WARNING, defects > MAX_LOGGED_ITEMS)
         << "The feed has " << defects - MAX_LOGGED_ITEMS << " more items that cannot be offered";
+    LOG_IF(WARNING, m_order.Uncompared() > 0)
+        << "The feed has " << m_order.Uncompared() << " more versions that cannot be read";
 }
 
 Result<std::optional<FoundUpdate>> CheckRun::Choose()
 {
-    VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
+    VersionOrder const order = [this](QString const& a, QString const& b) { return m_order.Compare(a, b); };
     BestItemAnswer answer = m_host.AskForBestItem();
     std::optional<ItemIndex> fallback;
     if (answer.kind == BestItemAnswer::Kind::Place && answer.place.delta)

@@ -7,6 +7,7 @@
 #include "Engine/core/check/FeedRecord.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/IFeedStore.h"
+#include "Engine/core/check/SparingOrder.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/fetch/FeedFetcher.h"
@@ -142,6 +143,7 @@ private:
     AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;
     bool m_hasPutOff = false;
+    SparingOrder m_order;
     BelievedKeys m_keys; ///< with which the loaded feed was verified
 };
 

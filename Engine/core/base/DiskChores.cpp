@@ -17,6 +17,17 @@ namespace Pelnar::Engine
 namespace
 {
 
+void LogEnd(std::exception const& exception)
+{
+    try
+    {
+        LOG(WARNING) << "A task of the update engine ended early: " << exception.what();
+    }
+    catch (std::exception const&) // no memory for that either
+    {
+    }
+}
+
 /// A thread without a place for its exception would end the host.
 void RunOnce(std::function<void()> const& chore)
 {
@@ -26,7 +37,7 @@ void RunOnce(std::function<void()> const& chore)
     }
     catch (std::exception const& exception)
     {
-        LOG(WARNING) << "A task of the update engine ended early: " << exception.what();
+        LogEnd(exception);
     }
 }
 

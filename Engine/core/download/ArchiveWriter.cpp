@@ -1,5 +1,6 @@
 #include "Engine/core/download/ArchiveWriter.h"
 
+#include "Engine/core/base/CallLater.h"
 #include "Engine/core/base/SignalBlock.h"
 
 #include <QObject>
@@ -218,16 +219,36 @@ private:
         }
     }
 
-    static Result<void> Done(Work const& work, PartialFile& file)
+    /// The failure of \a work, if it failed.
+    static std::optional<EngineError> FailureOf(Work const& work, PartialFile& file)
     {
+        Result<void> const done = work.run(file);
+        return done ? std::nullopt : std::optional(done.error());
+    }
+
+    /// Returns false after a failure. The download waits for an answer, so it gets one even if memory is short.
+    static bool Do(Work const& work, WriterState& state, ArchiveWriterEvents const* events)
+    {
+        std::optional<EngineError> failure;
+        bool isDone = false;
         try
         {
-            return work.run(file);
+            failure = FailureOf(work, state.file);
+            isDone = !failure;
         }
-        catch (std::exception const& exception) // the download waits for an answer
+        catch (std::exception const&) // out of memory
         {
-            return Failure(ErrorCause::DownloadSystemBusy, QString::fromLocal8Bit(exception.what()));
         }
+        if (!isDone)
+        {
+            TryForAWhile(
+                [&state, events, &failure]
+                {
+                    Post(state, [events, failure]
+                         { Called(events->failed, failure.value_or(MakeError(ErrorCause::DownloadSystemBusy))); });
+                });
+        }
+        return isDone;
     }
 
     static void Run(std::shared_ptr<WriterState> const& state, ArchiveWriterEvents const* events)
@@ -244,15 +265,11 @@ private:
             state->works.pop_front();
             state->running = work.ending;
             lock.unlock();
-            Result<void> const done = Done(work, state->file);
-            if (!done)
-            {
-                Post(*state, [events, error = done.error()] { Called(events->failed, error); });
-            }
+            bool const isDone = Do(work, *state, events);
             lock.lock();
             state->running.reset();
             state->changed.notify_all();
-            if (!done)
+            if (!isDone)
             {
                 return; // the following work depends on this
             }

@@ -1,5 +1,6 @@
 #include "Engine/core/fetch/CurlLoop.h"
 
+#include "Engine/core/base/CallLater.h"
 #include "Engine/core/fetch/AddressReach.h"
 #include "Engine/core/fetch/FetchRules.h"
 
@@ -29,6 +30,22 @@ constexpr std::chrono::seconds IDLE_TIME{30};
 constexpr long MOST_IDLE_CONNECTIONS = 4;
 /// Bytes may be read for this long before the event loop runs again.
 constexpr qint64 TURN_MS = 2;
+
+/// Makes \a call for libcurl, which no exception may pass through; -1 if memory runs out. Without its socket or its
+/// timer a transfer runs into its time limit.
+template <typename Call>
+int Guarded(Call const& call) noexcept
+{
+    try
+    {
+        call();
+        return 0;
+    }
+    catch (std::exception const&)
+    {
+        return -1;
+    }
+}
 
 } // namespace
 
@@ -97,18 +114,24 @@ void CurlLoop::AskSettings(QUrl const& url, QObject* receiver, std::function<voi
             ready(complete);
         }
     };
-    auto ask = [this, settings, proxy, needsTrust, url, configuration, tell]() mutable noexcept
+    auto ask = [this, settings, proxy, needsTrust, url, configuration, tell]() mutable
     {
-        if (!proxy)
+        try
         {
-            settings.proxy = FirstUsable(QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url)));
+            if (!proxy)
+            {
+                settings.proxy = FirstUsable(QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url)));
+            }
+            if (needsTrust)
+            {
+                settings.trust = MakeTrustStore(configuration);
+            }
         }
-        if (needsTrust)
+        catch (std::exception const&) // the transfer waits for an answer
         {
-            settings.trust = MakeTrustStore(configuration);
+            settings.areKnown = false;
         }
-        QMetaObject::invokeMethod(
-            this, [tell, settings] { tell(settings); }, Qt::QueuedConnection);
+        CallLater(*this, [tell, settings] { tell(settings); });
     };
     m_asking.Run(std::move(ask));
 }
@@ -139,23 +162,9 @@ bool CurlLoop::Begin()
         return false;
     }
     auto const watch = +[](CURL* transfer, curl_socket_t socket, int what, void* loop, void*)
-    {
-        // No exception may pass through libcurl. Without the socket the transfer runs into its time limit.
-        try
-        {
-            static_cast<CurlLoop*>(loop)->Watch(transfer, socket, what);
-            return 0;
-        }
-        catch (std::exception const&) // out of memory
-        {
-            return -1;
-        }
-    };
+    { return Guarded([=] { static_cast<CurlLoop*>(loop)->Watch(transfer, socket, what); }); };
     auto const setTimer = +[](CURLM*, long milliseconds, void* loop)
-    {
-        static_cast<CurlLoop*>(loop)->SetTimer(milliseconds);
-        return 0;
-    };
+    { return Guarded([=] { static_cast<CurlLoop*>(loop)->SetTimer(milliseconds); }); };
     curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, watch);
     curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);
     curl_multi_setopt(m_multi, CURLMOPT_TIMERFUNCTION, setTimer);

@@ -27,7 +27,8 @@ namespace Pelnar::Engine
 struct ConnectionSettings
 {
     ProxyChoice proxy;
-    TrustStore trust; ///< for https only
+    TrustStore trust;     ///< for https only
+    bool areKnown = true; ///< false if memory ran out while they were read
 };
 
 class CurlLoop : public QObject

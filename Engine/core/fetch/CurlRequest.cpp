@@ -1,6 +1,7 @@
 #include "Engine/core/fetch/CurlRequest.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 #include <vector>
 
@@ -71,9 +72,9 @@ void NoteGoodbye(SSL const* connection, int where, int alert)
 CurlRequest::CurlRequest(FetchRequest const& request, FetchLimits const& limits, ConnectionSettings settings)
     : m_request(request), m_settings(std::move(settings)), m_easy(curl_easy_init(), &curl_easy_cleanup)
 {
-    if (!m_easy)
+    if (!m_easy || !m_settings.areKnown)
     {
-        m_fault = MakeError(ErrorCause::ConnectionFailed);
+        m_fault = MakeError(ErrorCause::DownloadSystemBusy);
         return;
     }
     SetAddress();
@@ -190,8 +191,16 @@ void CurlRequest::SetSecurity()
     curl_easy_setopt(easy, CURLOPT_SSL_CTX_DATA, this);
     auto const prepare = +[](CURL*, void* context, void* request)
     {
-        bool const isReady = static_cast<CurlRequest*>(request)->PrepareSecurity(static_cast<SSL_CTX*>(context));
-        return isReady ? CURLE_OK : CURLE_SSL_CONNECT_ERROR;
+        // No exception may pass through libcurl.
+        try
+        {
+            bool const isReady = static_cast<CurlRequest*>(request)->PrepareSecurity(static_cast<SSL_CTX*>(context));
+            return isReady ? CURLE_OK : CURLE_SSL_CONNECT_ERROR;
+        }
+        catch (std::exception const&)
+        {
+            return CURLE_OUT_OF_MEMORY;
+        }
     };
     // A libcurl over a library other than OpenSSL does not accept this function.
     bool const isSet = curl_easy_setopt(easy, CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2}) == CURLE_OK &&

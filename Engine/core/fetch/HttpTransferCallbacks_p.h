@@ -6,6 +6,7 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
 #include <exception>
+#include <string_view>
 
 #include <sys/socket.h>
 
@@ -80,8 +81,9 @@ struct HttpTransfer::Callbacks
         }
         // libcurl reads no further than an answer's end. If bytes arrive together with that end, it mentions them here
         // and discards them.
-        QByteArray const text = QByteArray::fromRawData(bytes, static_cast<int>(count));
-        if (type == CURLINFO_TEXT && (text.startsWith("Excess found") || text.startsWith("Leftovers after chunking")))
+        auto const startsWith = [text = std::string_view(bytes, count)](std::string_view start)
+        { return text.substr(0, start.size()) == start; };
+        if (type == CURLINFO_TEXT && (startsWith("Excess found") || startsWith("Leftovers after chunking")))
         {
             static_cast<HttpTransfer*>(transfer)->m_isSurplus = true;
         }

@@ -3,6 +3,7 @@
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 #include "Engine/core/notes/ReleaseNotesTokenizer_p.h"
 
+#include <exception>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -83,6 +84,8 @@ public:
 
     [[nodiscard]] bool IsFull() const { return m_html.size() > m_maxBytes || m_attributeBytes > MAX_ATTRIBUTE_BYTES; }
     [[nodiscard]] std::string const& Html() const { return m_html; }
+
+    std::exception_ptr failure; ///< of a callback
 
 private:
     static std::string BlockName(MD_BLOCKTYPE type, void const* detail);
@@ -264,6 +267,7 @@ void HtmlWriter::AppendCellCode(std::string_view text)
 /// signs or more in every column for one; authors write fewer.
 struct ShortDelimiters
 {
+    std::exception_ptr failure{};
     std::size_t attributeBytes = 0;
     std::vector<std::string_view> lines{}; ///< of the parsed text
     int line = 0;                          ///< of the current paragraph
@@ -282,6 +286,35 @@ struct ShortDelimiters
         line += isAtLineStart ? 1 : 0;
     }
 };
+
+/// The action of a parser's callback. No exception may pass through the parser: \a reader keeps it, and the parsing
+/// ends.
+template <class Reader, class Act>
+int Guarded(void* pointer, Act const& act) noexcept
+{
+    auto& reader = *static_cast<Reader*>(pointer);
+    try
+    {
+        return act(reader);
+    }
+    catch (std::exception const&)
+    {
+        reader.failure = std::current_exception();
+        return 1;
+    }
+}
+
+/// Returns false if a callback or a lack of memory ended the parsing. Throws what a callback threw.
+template <class Reader>
+bool Parse(std::string_view text, MD_PARSER const& parser, Reader& reader)
+{
+    int const end = md_parse(text.data(), static_cast<MD_SIZE>(text.size()), &parser, &reader);
+    if (reader.failure)
+    {
+        std::rethrow_exception(reader.failure);
+    }
+    return end == 0;
+}
 
 /// \a text with three signs or more in every column of those lines.
 std::string WithWideDelimiters(std::string_view text)
@@ -302,11 +335,15 @@ std::string WithWideDelimiters(std::string_view text)
     parser.leave_span = [](MD_SPANTYPE, void*, void*) { return 0; };
     parser.text = [](MD_TEXTTYPE type, MD_CHAR const* piece, MD_SIZE size, void* found)
     {
-        static_cast<ShortDelimiters*>(found)->Add(type, {piece, size});
-        return 0;
+        return Guarded<ShortDelimiters>(found,
+                                        [=](ShortDelimiters& lines)
+                                        {
+                                            lines.Add(type, {piece, size});
+                                            return 0;
+                                        });
     };
     ShortDelimiters found;
-    static_cast<void>(md_parse(text.data(), static_cast<MD_SIZE>(text.size()), &parser, &found));
+    static_cast<void>(Parse(text, parser, found)); // what was found until then
     std::string wide;
     std::size_t done = 0;
     for (std::string_view const line : found.lines)
@@ -343,13 +380,16 @@ std::string WithWideDelimiters(std::string_view text)
 template <class Write>
 int UnlessFull(void* writer, Write const& write)
 {
-    auto& html = *static_cast<HtmlWriter*>(writer);
-    if (html.IsFull())
-    {
-        return 1;
-    }
-    write(html);
-    return 0;
+    return Guarded<HtmlWriter>(writer,
+                               [&write](HtmlWriter& html)
+                               {
+                                   if (html.IsFull())
+                                   {
+                                       return 1;
+                                   }
+                                   write(html);
+                                   return 0;
+                               });
 }
 
 } // namespace
@@ -375,8 +415,8 @@ NotesHtml MarkdownToHtml(std::string_view cleanText, std::size_t maxHtmlBytes)
     };
     HtmlWriter writer(maxHtmlBytes);
     std::string const text = WithWideDelimiters(cleanText);
-    static_cast<void>(md_parse(text.data(), static_cast<MD_SIZE>(text.size()), &parser, &writer));
-    return {writer.Html(), !writer.IsFull()};
+    bool const isWhole = Parse(text, parser, writer);
+    return {writer.Html(), isWhole && !writer.IsFull()};
 }
 
 } // namespace Pelnar::Engine

@@ -1,7 +1,10 @@
 #include "Engine/core/update/FeedStore.h"
 
+#include "Engine/core/base/CallLater.h"
+
 #include <QPointer>
 
+#include <exception>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -31,12 +34,20 @@ void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::
     m_chores.Run(
         [this, maxBytes, tell]
         {
-            auto const take = [this, tell, feed = ReadKeptFeedFile(m_folder, maxBytes)]
+            std::optional<KeptFeed> feed;
+            try
             {
-                m_isReading = false;
-                tell(feed);
-            };
-            QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+                feed = ReadKeptFeedFile(m_folder, maxBytes);
+            }
+            catch (std::exception const&) // out of memory; the check waits for an answer
+            {
+            }
+            CallLater(*this,
+                      [this, tell, feed]
+                      {
+                          m_isReading = false;
+                          tell(feed);
+                      });
         });
 }
 

@@ -1,5 +1,6 @@
 #include "Engine/core/update/UpdateEnvironment.h"
 
+#include "Engine/core/base/CallLater.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/InstallRehearsal.h"
 
@@ -43,8 +44,7 @@ void UpdateEnvironment::OpenTarget(QString const& bundlePath, quint64 neededByte
         {
             auto const target =
                 std::make_shared<OpenedTarget>(OpenWithHelper(bundlePath, neededBytes, sources, *m_helperProgram));
-            QMetaObject::invokeMethod(
-                &m_context, [opened, target] { opened(std::move(*target)); }, Qt::QueuedConnection);
+            CallLater(m_context, [opened, target] { opened(std::move(*target)); });
         });
 }
 

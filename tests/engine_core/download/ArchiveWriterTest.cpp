@@ -3,6 +3,7 @@
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,7 +13,9 @@
 #include <cstring>
 #include <memory>
 #include <new>
+#include <optional>
 #include <thread>
+#include <utility>
 
 namespace
 {
@@ -172,6 +175,33 @@ TEST_F(ArchiveWriterTest, ExceptionInItsThreadIsAFailure)
     writer->Close({}, ScarceCall());
     ASSERT_TRUE(WaitFor([this] { return failure.has_value(); }));
     EXPECT_EQ(failure->cause, ErrorCause::DownloadSystemBusy);
+}
+
+/// Throws as above, and leaves no memory for the next request in the writing thread.
+struct LastCall : ScarceCall
+{
+    explicit LastCall(std::shared_ptr<std::optional<ScarceMemory>> memory) : rest(std::move(memory)) {}
+    LastCall(LastCall&&) = default;
+    LastCall(LastCall const& other)
+    try : ScarceCall(other), rest(other.rest)
+    {
+    }
+    catch (std::bad_alloc const&)
+    {
+        other.rest->emplace(ScarceIn::OtherThreads, 0, 1);
+    }
+
+    std::shared_ptr<std::optional<ScarceMemory>> rest;
+};
+
+TEST_F(ArchiveWriterTest, FailureIsToldEvenIfItsThreadHasNoMemoryForThat)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(1000));
+    auto const memory = std::make_shared<std::optional<ScarceMemory>>();
+    writer->Close({}, LastCall(memory));
+    ASSERT_TRUE(WaitFor([this] { return failure.has_value(); }));
+    EXPECT_EQ(failure->cause, ErrorCause::DownloadSystemBusy);
+    EXPECT_TRUE(*memory && (*memory)->HasRefused());
 }
 
 } // namespace

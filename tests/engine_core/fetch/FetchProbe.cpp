@@ -1,6 +1,8 @@
 // FetchProbe.cpp: fetches one address and prints what came of it, for tests that look at a process from outside.
-// Usage: fetch_probe URL [AUTHORITY-FILE [anywhere]], the last word for plain http to other computers
+// Usage: fetch_probe URL [AUTHORITY-FILE [anywhere [without-memory]]]. The third word is for plain http to other
+// computers; with the fourth, the first thread beside the main one finds no memory once.
 #include "Engine/core/fetch/FeedFetcher.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -9,6 +11,7 @@
 #include <QSslConfiguration>
 
 #include <cstdio>
+#include <optional>
 
 #include <sys/resource.h>
 
@@ -38,6 +41,11 @@ int main(int argc, char** argv)
     long const before = peakKibibytes();
     bool const isAnywhere = arguments.value(3) == QLatin1String("anywhere");
     FeedFetcher fetcher(FetchLimits(), isAnywhere ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly);
+    std::optional<Pelnar::Testing::ScarceMemory> memory;
+    if (arguments.value(4) == QLatin1String("without-memory"))
+    {
+        memory.emplace(Pelnar::Testing::ScarceIn::OtherThreads, 0, 1);
+    }
     QElapsedTimer clock;
     clock.start();
     fetcher.Start(QUrl(arguments.value(1)),

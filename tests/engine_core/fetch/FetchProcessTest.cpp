@@ -115,6 +115,16 @@ TEST_F(FetchProcessTest, RedirectToAFileOpensNothing)
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::RedirectScheme)) << report.all.toStdString();
     EXPECT_FALSE(Trace().contains("secret.xml"));
 }
+TEST_F(FetchProcessTest, ThreadThatFindsNoMemoryForTheProxyEndsTheFetchAlone)
+{
+    QStringList const withoutProxy{
+        QStringLiteral("env"),       QStringLiteral("-u"), QStringLiteral("http_proxy"), QStringLiteral("-u"),
+        QStringLiteral("all_proxy"), QStringLiteral("-u"), QStringLiteral("ALL_PROXY")};
+    Report const report =
+        probe(withoutProxy, {QStringLiteral("http://feeds.example.com/feed.xml"), QStringLiteral("/dev/null"),
+                             QStringLiteral("anywhere"), QStringLiteral("without-memory")});
+    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::DownloadSystemBusy)) << report.all.toStdString();
+}
 class WrongClock : public FetchProcessTest
 {
 protected:

@@ -57,6 +57,7 @@ void OutcomeNote::Follow(std::string const& bundlePath)
     if (name != m_name)
     {
         m_formerName = std::exchange(m_name, std::move(name));
+        m_record.bundlePath = bundlePath;
     }
 }
 

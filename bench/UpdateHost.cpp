@@ -84,7 +84,7 @@ private:
         job.targetPath = m_target.path.toStdString();
         m_update->Describe(job);
         m_attempt = std::make_unique<InstallAttempt>(m_request.folder, m_target.path);
-        m_attempt->Describe(job, InstallWish::Person);
+        FailOn(m_attempt->Begin(job, InstallWish::Person));
         FailOn(m_handover.Start(
             m_target, *m_update, m_attempt->Folder(), job,
             [this]

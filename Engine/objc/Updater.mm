@@ -157,11 +157,15 @@ void Updater::TellFailedInstallation()
     EngineError const error = MakeFaultError(failure.fault, failure.errorNumber);
     if (m_memory->IsToBeTold())
     {
+        if (!m_memory->ClaimTelling())
+        {
+            TellFailedInstallationLater(); // another copy of the application tells this one
+            return;
+        }
         @autoreleasepool
         {
             PrepareForCheck();
         }
-        m_memory->SetTold();
         Windows().ShowError(error.sentence, [] {});
     }
     if (m_delegate)

@@ -46,6 +46,7 @@ InstallRecord SomeRecord()
     record.fault = UpdateFault::SwapFailed;
     record.errorNumber = 5;
     record.told = FailureTold::Yes;
+    record.bundlePath = "/opt/A b.app";
     return record;
 }
 
@@ -94,6 +95,7 @@ TEST(InstallRecord, ComesBackAndNoPieceOfItDoes)
     EXPECT_EQ(decoded->helper.number, 4711u);
     EXPECT_EQ(decoded->helper.startTime, 815u);
     EXPECT_EQ(decoded->told, FailureTold::Yes);
+    EXPECT_EQ(decoded->bundlePath, "/opt/A b.app");
     for (std::size_t size = 0; size < bytes.size(); ++size)
     {
         EXPECT_FALSE(DecodeInstallRecord(bytes.substr(0, size))) << size;

@@ -1,20 +1,9 @@
 // InstallMemoryTest.cpp: the record of an installation from one start of an application to the next.
-#include "Engine/core/update/InstallMemory.h"
-
-#include "Engine/core/base/PathText.h"
-#include "Engine/core/helper/NoteFile.h"
-#include "Engine/core/update/InstallAttempt.h"
 #include "tests/support/LogCapture.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/update/InstallMemoryFixture.h"
 
 #include <cerrno>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace
@@ -22,72 +11,6 @@ namespace
 
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
-
-class InstallMemoryTest : public testing::Test
-{
-protected:
-    InstallMemoryTest()
-    {
-        QDir(m_folder.path()).mkpath(QStringLiteral("App.app"));
-        m_bundle = QFileInfo(m_folder.filePath(QStringLiteral("App.app"))).canonicalFilePath();
-        m_downloads = m_folder.filePath(QStringLiteral("cache/downloads"));
-        m_records = m_folder.filePath(QStringLiteral("state/records"));
-    }
-
-    std::string Name() const { return InstallRecordName(PathBytes(m_bundle)); }
-    UniqueFd Records() const
-    {
-        return UniqueFd(::open(QFile::encodeName(m_records).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    }
-
-    /// What the helper does at the end of an attempt to install 2.0 over 1.0.
-    InstallRecord Attempt(InstallWish wish, InstallState state)
-    {
-        InstallAttempt const attempt(m_records, m_bundle);
-        InstallJob job;
-        job.installedVersion = "1.0";
-        job.expectedVersion = "2.0";
-        attempt.Describe(job, wish);
-        EXPECT_EQ(job.recordName, Name());
-        job.record->state = state;
-        job.record->secondsSinceEpoch = 1000000;
-        job.record->fault = state == InstallState::Failed ? UpdateFault::SwapFailed : UpdateFault::None;
-        WriteNote(attempt.Folder(), job.recordName, EncodeInstallRecord(*job.record));
-        EXPECT_TRUE(QDir().mkpath(m_downloads));
-        QFile archive(m_downloads + QLatin1Char('/') + QLatin1String(ARCHIVE));
-        EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
-        return *job.record;
-    }
-
-    /// The record that the start of that version finds, and the one that it leaves on the disk.
-    std::optional<InstallRecord> Start(char const* version)
-    {
-        InstallMemory const memory(m_records, m_downloads, m_bundle, QString::fromLatin1(version));
-        m_isToBeTold = memory.IsToBeTold();
-        m_isNews = memory.News() != nullptr;
-        return memory.Failure();
-    }
-
-    std::optional<InstallRecord> OnDisk() const { return ReadInstallRecord(Records().Get(), Name()); }
-    QStringList Files() const
-    {
-        return QDir(m_downloads).entryList(QDir::Files | QDir::Hidden) +
-               QDir(m_records).entryList(QDir::Files | QDir::Hidden);
-    }
-
-    static constexpr char ARCHIVE[] = "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef.archive";
-    QTemporaryDir m_folder;
-    QString m_bundle;
-    QString m_downloads;
-    QString m_records;
-    bool m_isToBeTold = false;
-    bool m_isNews = false;
-};
-
-QDateTime After(int hours)
-{
-    return QDateTime::fromSecsSinceEpoch(1000000 + hours * 3600, Qt::UTC);
-}
 
 TEST_F(InstallMemoryTest, IsEmptyWithoutARecordOrAFolder)
 {
@@ -106,7 +29,7 @@ TEST_F(InstallMemoryTest, AttemptsOfOneVersionAreCounted)
     InstallJob job;
     job.installedVersion = "1.0";
     job.expectedVersion = "2.1";
-    attempt.Describe(job, InstallWish::Automatic);
+    EXPECT_TRUE(attempt.Begin(job, InstallWish::Automatic));
     EXPECT_EQ(job.record->attempts, 1u) << "another version";
 }
 
@@ -139,7 +62,7 @@ TEST_F(InstallMemoryTest, FailureIsToldOnceToAPersonWhoAsked)
     }
     {
         InstallMemory memory(m_records, m_downloads, m_bundle, QStringLiteral("1.0"));
-        memory.SetTold();
+        EXPECT_TRUE(memory.ClaimTelling());
         EXPECT_FALSE(memory.IsToBeTold());
     }
     EXPECT_TRUE(Start("1.0")) << "it still holds the next attempt back";

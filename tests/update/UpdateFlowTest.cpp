@@ -265,12 +265,12 @@ TEST_F(UpdateFlowTest, BoundsThatCannotBeReadAreComparedAFewTimes)
     for (int i = 0; i < 300; ++i)
     {
         QByteArray const number = QByteArray::number(i);
-        items += Signed(
-            ItemOf("5.1", "<sparkle:minimumUpdateVersion>a" + number +
-                              "</sparkle:minimumUpdateVersion><sparkle:minimumAutoupdateVersion>b" + number +
-                              "</sparkle:minimumAutoupdateVersion><sparkle:criticalUpdate sparkle:version='c" + number +
-                              "'/><sparkle:informationalUpdate><sparkle:version>d" + number +
-                              "</sparkle:version></sparkle:informationalUpdate>"));
+        items +=
+            Signed(ItemOf("5.1", "<sparkle:minimumUpdateVersion>a" + number +
+                                     "</sparkle:minimumUpdateVersion><sparkle:minimumAutoupdateVersion>b" + number +
+                                     "</sparkle:minimumAutoupdateVersion><sparkle:criticalUpdate sparkle:version='c" +
+                                     number + "'/><sparkle:informationalUpdate><sparkle:version>d" + number +
+                                     "</sparkle:version></sparkle:informationalUpdate>"));
     }
     items += Signed(ItemOf("5.3", "<sparkle:minimumUpdateVersion>5.2</sparkle:minimumUpdateVersion>"));
     Publish(FeedWith(items));

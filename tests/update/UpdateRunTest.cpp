@@ -209,6 +209,9 @@ TEST_F(UpdateRunTest, SilentUpdateIsOfferedOnceWithoutAWindowAndInstalledOnQuit)
     EXPECT_EQ(install.record->wish, InstallWish::Automatic);
     EXPECT_EQ(install.record->attempts, 1u);
     EXPECT_EQ(install.recordName, InstallRecordName(settings.bundle.path.toStdString()));
+    auto const record = ReadInstallRecord(OpenRecordFolder(settings.stateFolder).Get(), install.recordName);
+    ASSERT_TRUE(record) << "the helper may die before it writes one, and the application end in the same moment";
+    EXPECT_EQ(record->state, InstallState::Waiting);
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
     run.reset();
     EXPECT_EQ(Since(), Notes{});

@@ -10,6 +10,7 @@ namespace
 
 constexpr std::string_view MAGIC = "PELNARI1";
 constexpr std::size_t NAME_BYTES = 16;
+constexpr std::string_view NAME_END = ".installation";
 constexpr std::uint64_t MAX_ERROR_NUMBER = 4095; // the kernel's largest
 
 template <class Codec>
@@ -17,14 +18,20 @@ void Visit(Codec& codec, InstallRecord& record, std::string& fault, std::uint64_
 {
     codec.Fields(record.fromVersion, record.toVersion, Limited{record.wish, InstallWish::Person}, record.attempts,
                  Limited{record.state, InstallState::Installed}, record.secondsSinceEpoch, record.helper.number,
-                 record.helper.startTime, fault, errorNumber, Limited{record.told, FailureTold::Yes});
+                 record.helper.startTime, fault, errorNumber, Limited{record.told, FailureTold::Yes},
+                 record.bundlePath);
 }
 
 } // namespace
 
 std::string InstallRecordName(std::string const& bundlePath)
 {
-    return Hexadecimal(Bytes(HashOf(View(bundlePath)).data(), NAME_BYTES)) + ".installation";
+    return Hexadecimal(Bytes(HashOf(View(bundlePath)).data(), NAME_BYTES)).append(NAME_END);
+}
+
+bool IsInstallRecordName(std::string_view name)
+{
+    return name.size() == 2 * NAME_BYTES + NAME_END.size() && name.substr(2 * NAME_BYTES) == NAME_END;
 }
 
 std::string EncodeInstallRecord(InstallRecord record)
@@ -64,11 +71,18 @@ std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes)
     return record;
 }
 
+bool HasMissedBundle(InstallRecord const& record)
+{
+    return record.state == InstallState::Failed &&
+           (record.fault == UpdateFault::TargetMissing || record.fault == UpdateFault::TargetChanged);
+}
+
 PastInstallation JudgePastInstallation(InstallRecord const& record, std::string_view runningVersion, HelperLife helper)
 {
     if (runningVersion != record.fromVersion)
     {
-        return PastInstallation::Over;
+        bool const isToBeTold = HasMissedBundle(record) && record.told == FailureTold::No;
+        return isToBeTold && runningVersion != record.toVersion ? PastInstallation::Displaced : PastInstallation::Over;
     }
     switch (record.state)
     {

@@ -38,6 +38,7 @@ enum class FailureTold : std::uint8_t
 /// The record's name for the bundle at \a bundlePath, which is absolute and contains no link. No folder and no archive
 /// has such a name.
 std::string InstallRecordName(std::string const& bundlePath);
+[[nodiscard]] bool IsInstallRecordName(std::string_view name);
 
 struct InstallRecord
 {
@@ -51,9 +52,10 @@ struct InstallRecord
     UpdateFault fault = UpdateFault::None; ///< after a failure, or why the new version was not started
     int errorNumber = 0;                   ///< for the fault: an errno, or 0
     FailureTold told = FailureTold::No;
+    std::string bundlePath = {}; ///< of the old version, absolute and without links; empty if unknown
 };
 
-constexpr std::size_t INSTALL_RECORD_MAX_BYTES = 4096;
+constexpr std::size_t INSTALL_RECORD_MAX_BYTES = 8192;
 
 std::string EncodeInstallRecord(InstallRecord record);
 /// Empty if \a bytes are not a record.
@@ -72,7 +74,11 @@ enum class PastInstallation
     Over,     ///< the update or another version is installed: nothing remains to do
     Dropped,  ///< its helper died while it waited, and no person had asked: this was no attempt
     Failed,
+    Displaced, ///< failed, because another bundle was in its place or none: this was no attempt
 };
+
+/// True if the helper did not find the bundle that the host ran from.
+[[nodiscard]] bool HasMissedBundle(InstallRecord const& record);
 
 [[nodiscard]] PastInstallation JudgePastInstallation(InstallRecord const& record, std::string_view runningVersion,
                                                      HelperLife helper);

@@ -23,9 +23,9 @@ constexpr mode_t NOTE_MODE = 0600;
 constexpr mode_t OTHERS_CAN_WRITE = 0022;
 constexpr mode_t ALL_BITS = 07777;
 
-void SyncOrThrow(int descriptor)
+void SyncOrThrow(int descriptor, NoteSync sync)
 {
-    if (::fsync(descriptor) != 0)
+    if (sync == NoteSync::Waits && ::fsync(descriptor) != 0)
     {
         ThrowErrno(errno, UpdateFault::SyncFailed);
     }
@@ -226,7 +226,7 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
     return *std::move(bytes);
 }
 
-void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
+void WriteNote(int folderFd, std::string const& name, std::string_view bytes, NoteSync sync)
 {
     std::string const newName = name + ".new";
     FreeName(folderFd, newName);
@@ -244,12 +244,12 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
     {
         throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
     }
-    SyncOrThrow(file.Get());
+    SyncOrThrow(file.Get(), sync);
     if (!RenameOver(folderFd, newName, name))
     {
         ThrowErrno(errno);
     }
-    SyncOrThrow(folderFd);
+    SyncOrThrow(folderFd, sync);
 }
 
 void RemoveNote(int folderFd, std::string const& name)

@@ -41,9 +41,14 @@ void FreeName(int folderFd, std::string const& name);
 /// counts only if it is private and has no other name. REQUIRES: no other user may write in the folder. Throws
 /// UpdateRefusal if the file cannot be read, because it may exist then. A longer file is cut at \a maxBytes.
 std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes = 64 * 1024);
-/// Replaces the file as a whole, and returns when it is on the disk. Throws UpdateRefusal: PermissionsUnavailable if
-/// the file system keeps no modes.
-void WriteNote(int folderFd, std::string const& name, std::string_view bytes);
+enum class NoteSync
+{
+    Waits, ///< until the file is on the disk
+    None,  ///< the file survives the process, but maybe not a power cut
+};
+
+/// Replaces the file as a whole. Throws UpdateRefusal: PermissionsUnavailable if the file system keeps no modes.
+void WriteNote(int folderFd, std::string const& name, std::string_view bytes, NoteSync sync = NoteSync::Waits);
 /// Throws UpdateRefusal.
 void RemoveNote(int folderFd, std::string const& name);
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <utility>
 
 #include <fcntl.h>
@@ -49,7 +50,8 @@ std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& 
 
 InstallAttempt::InstallAttempt(QString const& folder, QString const& bundlePath)
     : m_folder(MakeRecordFolder(folder))
-    , m_name(InstallRecordName(PathBytes(bundlePath)))
+    , m_bundlePath(PathBytes(bundlePath))
+    , m_name(InstallRecordName(m_bundlePath))
     , m_before(ReadInstallRecord(m_folder.Get(), m_name))
 {
 }
@@ -66,18 +68,31 @@ Result<std::unique_ptr<InstallAttempt>> InstallAttempt::Make(QString const& fold
     }
 }
 
-void InstallAttempt::Describe(InstallJob& job, InstallWish wish) const
+Result<void> InstallAttempt::Begin(InstallJob& job, InstallWish wish) const
 {
     InstallRecord record;
     record.fromVersion = job.installedVersion;
     record.toVersion = job.expectedVersion;
     record.wish = wish;
+    record.bundlePath = m_bundlePath;
     bool const isAgain =
         m_before && m_before->fromVersion == record.fromVersion && m_before->toVersion == record.toVersion;
     record.attempts = isAgain ? std::max(m_before->attempts, m_before->attempts + 1) : 1; // never fewer because of one
                                                                                           // more attempt
     job.recordName = m_name;
-    job.record = std::move(record);
+    job.record = record;
+    record.helper = MarkOfThisProcess();
+    record.secondsSinceEpoch = static_cast<std::uint64_t>(std::time(nullptr));
+    try
+    {
+        // The helper writes it again, and waits for the disk.
+        WriteNote(m_folder.Get(), m_name, EncodeInstallRecord(record), NoteSync::None);
+        return {};
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return Failure(refusal);
+    }
 }
 
 void InstallAttempt::TakeBack()

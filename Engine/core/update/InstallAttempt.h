@@ -29,13 +29,15 @@ public:
     static Result<std::unique_ptr<InstallAttempt>> Make(QString const& folder, QString const& bundlePath);
 
     int Folder() const { return m_folder.Get(); }
-    /// Makes the helper write the outcome of \a job.
-    void Describe(InstallJob& job, InstallWish wish) const;
+    /// Makes the helper write the outcome of \a job. Until it has begun, the record says that this process waits, so
+    /// that the next start tells if both end now.
+    Result<void> Begin(InstallJob& job, InstallWish wish) const;
     /// Restores the state before the attempt. REQUIRES: no helper uses it any more.
     void TakeBack();
 
 private:
     UniqueFd m_folder;
+    std::string m_bundlePath;
     std::string m_name;
     std::optional<InstallRecord> m_before; ///< of an earlier attempt
 };

@@ -44,8 +44,8 @@ Result<void> InstallHandover::Start(InstallTarget const& target, PreparedUpdate&
     m_helper->Release();
     m_update = &update;
     m_update->GiveToHelper();
-    // A person who waits for the new version is told by the next start, with a window.
-    if (job.targetPath.empty())
+    // A person who waits for the new version is told by the next start, with a window: now none can be shown.
+    if (!job.record || job.record->wish == InstallWish::Automatic)
     {
         QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &m_context,
                          [this] { CatchUp(); });

@@ -1,6 +1,8 @@
 #include "Engine/core/update/InstallMemory.h"
 
 #include "Engine/core/base/PathText.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/check/BackOff.h"
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/faults/EngineError.h"
@@ -10,10 +12,16 @@
 #include <glog/logging.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 
 namespace Pelnar::Engine
 {
@@ -33,16 +41,43 @@ std::string RealPath(QString const& bundlePath)
 }
 
 /// Empty if the note is missing or cannot be read.
-std::string ReadNoteIn(QString const& folder, std::string const& name)
+std::string BytesOf(int folderFd, std::string const& name)
 {
     try
     {
-        UniqueFd const opened = OpenRecordFolder(folder);
-        return opened ? ReadNote(opened.Get(), name) : std::string();
+        return ReadNote(folderFd, name);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        LOG(WARNING) << "The record of the last installation cannot be read: " << refusal.what();
+        return {};
+    }
+}
+
+/// True if the bundle of the application that runs from \a runningPath is no longer at \a path.
+bool HasGone(std::string const& path, std::string const& runningPath)
+{
+    if (path.empty() || path == runningPath)
+    {
+        return false;
+    }
+    auto const identifierAt = [](std::string const& bundlePath)
+    {
+        UniqueFd const bundle = OpenFolder(AT_FDCWD, bundlePath);
+        return ReadBundleInformation(bundle.Get(), bundlePath.substr(bundlePath.rfind('/') + 1)).identifier;
+    };
+    struct stat status;
+    if (::lstat(path.c_str(), &status) != 0)
+    {
+        return errno == ENOENT || errno == ENOTDIR;
+    }
+    try
+    {
+        return !S_ISDIR(status.st_mode) || identifierAt(path) != identifierAt(runningPath);
     }
     catch (UpdateRefusal const&)
     {
-        return {};
+        return false; // one of them cannot be read
     }
 }
 
@@ -76,14 +111,48 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
     }
     m_name = InstallRecordName(path);
     UniqueFd const opened = OpenRecordFolder(folder);
-    auto record = opened ? ReadInstallRecord(opened.Get(), m_name) : std::nullopt;
+    if (!opened)
+    {
+        return;
+    }
+    Take(m_name, BytesOf(opened.Get(), m_name), version.toStdString());
+    if (!m_failure)
+    {
+        TakeStray(opened.Get(), path, version.toStdString());
+    }
+}
+
+void InstallMemory::Take(std::string name, std::string bytes, std::string const& version)
+{
+    auto record = DecodeInstallRecord(bytes);
     if (!record)
     {
         return;
     }
+    m_failureName = std::move(name);
+    m_failureBytes = std::move(bytes);
     auto const life = IsRunning(record->helper) ? HelperLife::Runs : HelperLife::Ended;
-    PastInstallation const meaning = JudgePastInstallation(*record, version.toStdString(), life);
+    PastInstallation const meaning = JudgePastInstallation(*record, version, life);
     Settle(*std::move(record), meaning);
+}
+
+void InstallMemory::TakeStray(int folderFd, std::string const& bundlePath, std::string const& version)
+{
+    for (std::string const& name : ListFolder(folderFd).value_or(std::vector<std::string>()))
+    {
+        bool const isRecord = IsInstallRecordName(name) && name != m_name;
+        std::string bytes = isRecord ? BytesOf(folderFd, name) : std::string();
+        auto const record = DecodeInstallRecord(bytes);
+        bool const isStray = record && HasMissedBundle(*record) && record->told == FailureTold::No &&
+                             record->toVersion != version && HasGone(record->bundlePath, bundlePath);
+        if (isStray)
+        {
+            m_failureName = name;
+            m_failureBytes = std::move(bytes);
+            Settle(*record, PastInstallation::Displaced);
+            return;
+        }
+    }
 }
 
 void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
@@ -112,16 +181,19 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
             SetInterrupted(record);
         }
         break;
+    case PastInstallation::Displaced:
+        record.attempts = 0;
+        break;
     }
     m_isNews = record.told == FailureTold::No;
-    LOG_IF(WARNING, m_isNews) << "The installation of update " << Shown(record.toVersion)
-                              << " failed: " << FaultName(record.fault) << " (errno " << record.errorNumber
-                              << "), attempt " << record.attempts;
     m_failure = std::move(record);
     if (m_isNews && m_failure->wish == InstallWish::Automatic)
     {
-        SetTold(); // no window will tell it
+        m_isNews = ClaimTelling(); // no window will tell it
     }
+    LOG_IF(WARNING, m_isNews) << "The installation of update " << Shown(m_failure->toVersion)
+                              << " failed: " << FaultName(m_failure->fault) << " (errno " << m_failure->errorNumber
+                              << "), attempt " << m_failure->attempts;
 }
 
 InstallRecord const* InstallMemory::News() const
@@ -147,12 +219,17 @@ void InstallMemory::TakeRollback(QString const& failedVersion)
     std::string const version = failedVersion.toStdString();
     bool const isTold =
         m_failure && m_failure->toVersion == version && m_failure->fault == UpdateFault::NewVersionFailed;
-    if (m_name.empty() || isTold || ReadNoteIn(m_folder, RollbackName()) == version)
+    if (m_name.empty() || isTold)
+    {
+        return;
+    }
+    auto locked = Lock();
+    if (!locked || BytesOf(locked->Get(), RollbackName()) == version)
     {
         return;
     }
     LOG(WARNING) << "Update " << Shown(version) << " was rolled back; only a person's check offers it again";
-    Keep(RollbackName(), version);
+    Keep(RollbackName(), version, std::move(locked));
     m_rollback.emplace();
     m_rollback->toVersion = version;
     m_rollback->fault = UpdateFault::NewVersionFailed;
@@ -163,14 +240,31 @@ bool InstallMemory::IsToBeTold() const
     return m_failure && m_failure->wish == InstallWish::Person && m_failure->told == FailureTold::No;
 }
 
-void InstallMemory::SetTold()
+bool InstallMemory::ClaimTelling()
 {
-    if (!m_failure || m_failure->told == FailureTold::Yes)
-    {
-        return;
-    }
     m_failure->told = FailureTold::Yes;
-    m_failure->attempts > 0 ? Keep(m_name, EncodeInstallRecord(*m_failure)) : Forget();
+    auto locked = Lock();
+    bool const isChanged = locked && *locked && BytesOf(locked->Get(), m_failureName) != m_failureBytes;
+    if (!locked || isChanged)
+    {
+        m_isNews = false; // another process tells it, or has begun another installation
+        return false;
+    }
+    std::string const bytes = m_failure->attempts > 0 ? EncodeInstallRecord(*m_failure) : std::string();
+    Keep(m_failureName, bytes, std::move(locked));
+    return true;
+}
+
+std::shared_ptr<UniqueFd> InstallMemory::Lock()
+{
+    if (auto held = m_lock.lock()) // by a write that has not ended
+    {
+        return held;
+    }
+    auto folder = std::make_shared<UniqueFd>(OpenPrivateFolder(PathBytes(m_folder)));
+    bool const isTaken = *folder && ::flock(folder->Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    m_lock = folder;
+    return isTaken ? nullptr : folder;
 }
 
 void InstallMemory::Forget()
@@ -191,14 +285,14 @@ void InstallMemory::Forget()
         });
 }
 
-void InstallMemory::Keep(std::string const& name, std::string const& bytes)
+void InstallMemory::Keep(std::string const& name, std::string const& bytes, std::shared_ptr<UniqueFd> locked)
 {
     m_chores.Run(
-        [folder = m_folder, name, bytes]
+        [name, bytes, locked = std::move(locked)]
         {
             try
             {
-                WriteNote(OpenPrivateFolder(PathBytes(folder)).Get(), name, bytes);
+                bytes.empty() ? RemoveNote(locked->Get(), name) : WriteNote(locked->Get(), name, bytes);
             }
             catch (UpdateRefusal const& refusal)
             {

@@ -3,12 +3,14 @@
 // Thread: its maker's. Ownership: its destructor waits for its pending writes and removals.
 #pragma once
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/DiskChores.h"
 #include "Engine/core/helper/InstallRecord.h"
 
 #include <QDateTime>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -37,22 +39,35 @@ public:
     void SetHeard();
     /// A person requested that installation and has not seen its result.
     [[nodiscard]] bool IsToBeTold() const;
-    void SetTold();
+    /// Of several processes that start at once, one gets true: it tells the failure. For the others it is no news.
+    /// REQUIRES: IsToBeTold().
+    [[nodiscard]] bool ClaimTelling();
     /// The update to \a failedVersion was rolled back: this is news unless an earlier start has told it.
     void TakeRollback(QString const& failedVersion);
 
 private:
+    /// The record \a name that \a bytes encode, found by \a version.
+    void Take(std::string name, std::string bytes, std::string const& version);
+    /// The record of a bundle that is no longer in its place: no start at that place tells it.
+    void TakeStray(int folderFd, std::string const& bundlePath, std::string const& version);
     void Settle(InstallRecord record, PastInstallation meaning);
     std::string RollbackName() const;
+    /// The folder of the records, for one process at a time; null while another process has it. Without locks on the
+    /// file system, each process gets it.
+    std::shared_ptr<UniqueFd> Lock();
     void Forget();
-    void Keep(std::string const& name, std::string const& bytes);
+    /// Empty \a bytes remove the record. \a locked is released then.
+    void Keep(std::string const& name, std::string const& bytes, std::shared_ptr<UniqueFd> locked);
 
     QString m_folder;
     QString m_downloads;
     std::string m_name;
+    std::string m_failureName;  ///< of the failure's record
+    std::string m_failureBytes; ///< as they were read
     std::optional<InstallRecord> m_failure;
     bool m_isNews = false;                   ///< the failure is
     std::optional<InstallRecord> m_rollback; ///< if it is news
+    std::weak_ptr<UniqueFd> m_lock;
     DiskChores m_chores;
 };
 

@@ -19,8 +19,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// How long an update waits for an application that was asked to quit. A person may have answered "stay open" to a
-/// question about unsaved work. If they close the application hours later, a restart would be a surprise.
+/// A person may have answered "stay open" to a question about unsaved work. Hours later a restart would be a surprise.
 constexpr std::uint64_t RELAUNCH_WAIT_SECONDS = 600;
 
 } // namespace
@@ -344,11 +343,14 @@ bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
         }
         m_attempt = *std::move(attempt);
     }
-    m_attempt->Describe(job, wish);
-    m_handover = std::make_unique<InstallHandover>(m_parts);
-    Result<void> const started = m_handover->Start(
-        *m_target, *m_prepared, m_attempt->Folder(), std::move(job), [this] { Take(RunEvent::HelperWaits); },
-        [this](EngineError const& failure) { Fail(RunEvent::HelperFailed, failure); });
+    Result<void> started = m_attempt->Begin(job, wish);
+    if (started)
+    {
+        m_handover = std::make_unique<InstallHandover>(m_parts);
+        started = m_handover->Start(
+            *m_target, *m_prepared, m_attempt->Folder(), std::move(job), [this] { Take(RunEvent::HelperWaits); },
+            [this](EngineError const& failure) { Fail(RunEvent::HelperFailed, failure); });
+    }
     if (!started)
     {
         Fail(RunEvent::HelperFailed, started.error());

@@ -150,6 +150,17 @@ void CheckStream(Bytes bytes)
     }
 }
 
+/// \a repetitions are in their order and inside a text of \a size bytes.
+void CheckRepetitions(std::optional<Repetitions> const& repetitions, std::size_t size)
+{
+    std::size_t end = 0;
+    for (Repetition const& repetition : repetitions.value_or(Repetitions()))
+    {
+        Require(repetition.position >= end && repetition.End() <= size);
+        end = repetition.End();
+    }
+}
+
 /// A text with two changes, so that it has three runs that equal the old text.
 struct ChangedText
 {
@@ -157,33 +168,22 @@ struct ChangedText
     std::string after =
         before.substr(0, 20000) + "changed" + before.substr(20007, 20000) + "again" + before.substr(40012);
     std::string file = Pelnar::Testing::GzipOf(before);
-    PackedBase base{
-        ViewOf(before), PackedDataOf(ViewOf(file)), {{20000, 7, 14}, {20000, 5, 10}, {before.size() - 40012, 0, 0}}};
-
-    static Bytes ViewOf(std::string const& text)
-    {
-        return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
-    }
+    PackedBase base{UnpackText(Pelnar::Engine::View(file)).value(),
+                    {{20000, 7, 14}, {20000, 5, 10}, {before.size() - 40012, 0, 0}}};
 };
 
 /// The input as corrections of a packed text, and as the end of a recipe with corrections.
 void CheckCorrections(Bytes bytes)
 {
     static ChangedText const changed;
-    Bytes const text = ChangedText::ViewOf(changed.after);
+    Bytes const text = Pelnar::Engine::View(changed.after);
     ManifestBytes::Reader reader(bytes);
     TokenCorrections corrections;
     while (!reader.IsAtEnd())
     {
         corrections.push_back(reader.Number());
     }
-    std::optional<DeflateTokens> const tokens = CorrectedTokens(changed.base, text, {9, 8}, corrections);
-    std::size_t sum = 0;
-    for (DeflateToken const token : tokens.value_or(DeflateTokens()))
-    {
-        sum += token.length > 0 ? token.length : 1u;
-    }
-    Require(!tokens || sum == text.size());
+    CheckRepetitions(CorrectedTokens(changed.base, text, {9, 8}, corrections), text.size());
 
     constexpr std::uint8_t CORRECTS_TOKENS = 32;
     ByteBuffer recipe{0, CORRECTS_TOKENS + 6, 8};
@@ -197,11 +197,13 @@ void CheckPackedText(Bytes bytes)
 {
     constexpr std::size_t MOST_BYTES = 4096;
     static constexpr std::uint8_t OPENING[] = {10, 0x1F, 0x8B, 8, 0, 0, 0, 0, 0, 2, 3, 9, 8};
-    if (std::optional<ByteBuffer> const text = UnpackText(bytes))
+    if (std::optional<TokenizedText> const unpacked = UnpackText(bytes))
     {
-        std::optional<ByteBuffer> const recipe = FindRecipe(bytes, View(*text));
+        Bytes const text = View(unpacked->text);
+        CheckRepetitions(unpacked->repetitions, text.size());
+        std::optional<ByteBuffer> const recipe = FindRecipe(bytes, text);
         std::optional<ByteBuffer> const made =
-            recipe ? PackByRecipe(View(*recipe), View(*text), bytes.size(), {}) : std::nullopt;
+            recipe ? PackByRecipe(View(*recipe), text, bytes.size(), {}) : std::nullopt;
         Require(!recipe || (made && View(*made) == bytes));
     }
     ByteBuffer recipe(std::begin(OPENING), std::end(OPENING));
@@ -213,15 +215,13 @@ void CheckPackedText(Bytes bytes)
         Require(!made || made->size() <= MOST_BYTES);
     }
     // The input as packed data of a text that equals the new one.
-    static ByteBuffer const longText(100000, 7);
-    Bytes const view(longText.data(), longText.size());
-    std::optional<DeflateTokens> const tokens = TokensLike({view, bytes, {{view.size(), 0, 0}}}, view, {6, 8});
-    std::size_t sum = 0;
-    for (DeflateToken const token : tokens.value_or(DeflateTokens()))
+    constexpr std::size_t MOST_TEXT_BYTES = 100000;
+    if (std::optional<TokenizedText> old = Inflate(bytes, 0, 0, MOST_TEXT_BYTES))
     {
-        sum += token.length > 0 ? token.length : 1u;
+        std::size_t const size = old->text.size();
+        PackedBase const base{std::move(*old), {{size, 0, 0}}};
+        CheckRepetitions(TokensLike(base, View(base.text.text), {6, 8}), size);
     }
-    Require(!tokens || sum == view.size());
     CheckCorrections(bytes);
 }
 

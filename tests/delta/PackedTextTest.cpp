@@ -7,6 +7,8 @@
 
 #include <QTemporaryDir>
 
+#include <zlib.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -34,8 +36,8 @@ std::string Text(ByteBuffer const& bytes)
 /// Splits \a file and expects that it is restored. Returns its recipe.
 ByteBuffer ExpectTheWayBack(std::string const& file, std::string const& text)
 {
-    std::optional<ByteBuffer> const unpacked = UnpackText(View(file));
-    EXPECT_TRUE(unpacked && Text(*unpacked) == text);
+    std::optional<TokenizedText> const unpacked = UnpackText(View(file));
+    EXPECT_TRUE(unpacked && Text(unpacked->text) == text);
     std::optional<ByteBuffer> const recipe = FindRecipe(View(file), View(text));
     EXPECT_TRUE(recipe);
     std::optional<ByteBuffer> const made =
@@ -163,9 +165,9 @@ TEST(PackedText, TokensOfTheOldTextAreCopied)
             SCOPED_TRACE(testing::Message() << "level " << level << ", memory " << memory);
             std::string const oldFile = GzipOf(texts.before, level, memory);
             std::string const file = GzipOf(texts.after, level, memory);
-            PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
+            PackedBase const base{UnpackText(View(oldFile)).value(), texts.steps};
             ByteBuffer const recipe = FindRecipe(View(file), View(texts.after)).value();
-            ByteBuffer const faster = FasterRecipe(recipe, View(file), View(texts.after), base);
+            ByteBuffer const faster = FasterRecipe(recipe, View(file), UnpackText(View(file)).value(), base);
             EXPECT_NE(faster, recipe);
             EXPECT_EQ(Text(PackByRecipe(View(faster), View(texts.after), file.size(), base).value()), file);
             EXPECT_FALSE(PackByRecipe(View(faster), View(texts.after), file.size(), {})) << "there is nothing to copy";
@@ -173,16 +175,19 @@ TEST(PackedText, TokensOfTheOldTextAreCopied)
     }
 }
 
-/// The tokens of a whole deflated text.
-DeflateTokens TokensIn(Bytes data)
+/// True if no repetition begins before the end of the one before it, or ends behind the text.
+bool AreInside(std::optional<Repetitions> const& repetitions, std::size_t textBytes)
 {
-    DeflateTokens tokens;
-    TokenReader reader(data);
-    for (DeflateToken token; reader.Next(token);)
+    std::size_t end = 0;
+    for (Repetition const& repetition : repetitions.value_or(Repetitions()))
     {
-        tokens.push_back(token);
+        if (repetition.position < end || repetition.End() > textBytes)
+        {
+            return false;
+        }
+        end = repetition.End();
     }
-    return tokens;
+    return true;
 }
 
 TEST(PackedText, CorrectedTokensAreThoseOfTheNewFile)
@@ -202,29 +207,23 @@ TEST(PackedText, CorrectedTokensAreThoseOfTheNewFile)
         std::vector<PatchStep> const steps{{cut, added.size(), 2 * gone}, {before.size() - cut - gone, 0, 0}};
         std::string const oldFile = GzipOf(before, level);
         std::string const file = GzipOf(after, level);
-        PackedBase const base{View(before), PackedDataOf(View(oldFile)), steps};
-        Bytes const data = PackedDataOf(View(file));
+        PackedBase const base{UnpackText(View(oldFile)).value(), steps};
+        TokenizedText const text = UnpackText(View(file)).value();
         DeflateParameters const parameters{level, 8};
-        std::optional<TokenCorrections> const corrections = FindCorrections(base, View(after), parameters, data);
+        std::optional<TokenCorrections> const corrections = FindCorrections(base, text, parameters);
         if (!corrections)
         {
             continue;
         }
         ++corrected;
-        EXPECT_EQ(CorrectedTokens(base, View(after), parameters, *corrections), TokensIn(data));
+        EXPECT_EQ(CorrectedTokens(base, View(after), parameters, *corrections), text.repetitions);
         for (int damage = 0; damage < 20; ++damage)
         {
             TokenCorrections wrong = *corrections;
             std::uint64_t& number = wrong[random() % wrong.size()];
             number = damage % 4 == 0 ? ~std::uint64_t(0) : damage % 4 == 1 ? random() : number ^ (1u << random() % 9);
             wrong.resize(damage % 5 == 0 ? random() % wrong.size() : wrong.size());
-            std::size_t sum = 0;
-            for (DeflateToken const token :
-                 CorrectedTokens(base, View(after), parameters, wrong).value_or(DeflateTokens()))
-            {
-                sum += token.length > 0 ? token.length : 1u;
-            }
-            EXPECT_TRUE(sum == 0 || sum == after.size());
+            EXPECT_TRUE(AreInside(CorrectedTokens(base, View(after), parameters, wrong), after.size()));
         }
     }
     EXPECT_GT(corrected, 40u);
@@ -236,10 +235,10 @@ TEST(PackedText, CorrectionsTakeFewBytesOrAreNotMade)
     std::string const after = "A new entry of few words.\n" + before;
     std::string const oldFile = GzipOf(before, 9);
     std::string const file = GzipOf(after, 9);
-    PackedBase const base{
-        View(before), PackedDataOf(View(oldFile)), {{0, after.size() - before.size(), 0}, {before.size(), 0, 0}}};
+    PackedBase const base{UnpackText(View(oldFile)).value(),
+                          {{0, after.size() - before.size(), 0}, {before.size(), 0, 0}}};
     ByteBuffer const recipe = FindRecipe(View(file), View(after)).value();
-    ByteBuffer const faster = FasterRecipe(recipe, View(file), View(after), base);
+    ByteBuffer const faster = FasterRecipe(recipe, View(file), UnpackText(View(file)).value(), base);
     EXPECT_GT(faster.size(), recipe.size());
     EXPECT_LE(faster.size(), recipe.size() + after.size() / 256);
     EXPECT_EQ(Text(PackByRecipe(View(faster), View(after), file.size(), base).value()), file);
@@ -261,29 +260,92 @@ TEST(PackedText, TokensOfAnotherPackerAreNotCopied)
     TwoTexts const texts;
     std::string const oldFile = GzipOf(texts.before, 6);
     std::string const file = GzipOf(texts.after, 9);
-    PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
+    PackedBase const base{UnpackText(View(oldFile)).value(), texts.steps};
     ByteBuffer const recipe = FindRecipe(View(file), View(texts.after)).value();
-    EXPECT_EQ(FasterRecipe(recipe, View(file), View(texts.after), base), recipe);
+    EXPECT_EQ(FasterRecipe(recipe, View(file), UnpackText(View(file)).value(), base), recipe);
 }
 
-TEST(PackedText, DamagedTokensOfTheOldTextMakeNothingLargerThanAllowed)
+TEST(PackedText, OtherTokensOfTheOldTextMakeNothingLargerThanAllowed)
 {
     TwoTexts const texts;
     std::string const oldFile = GzipOf(texts.before);
     std::string const file = GzipOf(texts.after);
-    PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
-    ByteBuffer const recipe =
-        FasterRecipe(FindRecipe(View(file), View(texts.after)).value(), View(file), View(texts.after), base);
-    for (std::size_t at = 0; at < oldFile.size(); at += 4001)
+    PackedBase base{UnpackText(View(oldFile)).value(), texts.steps};
+    ByteBuffer const recipe = FasterRecipe(FindRecipe(View(file), View(texts.after)).value(), View(file),
+                                           UnpackText(View(file)).value(), base);
+    std::size_t unpacked = 0;
+    for (std::size_t at = 18; at < oldFile.size(); at += 4001)
     {
         std::string damaged = oldFile;
         damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
-        PackedBase const other{View(texts.before), View(damaged).substr(10), texts.steps};
-        std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), View(texts.after), file.size(), other);
+        std::optional<TokenizedText> other = UnpackText(View(damaged));
+        bool const isSameSize = other && other->text.size() == texts.before.size();
+        unpacked += isSameSize ? 1 : 0;
+        PackedBase const wrong{isSameSize ? std::move(*other) : TokenizedText(base.text), texts.steps};
+        std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), View(texts.after), file.size(), wrong);
         EXPECT_TRUE(!made || made->size() <= file.size()) << at;
-        PackedBase const shorter{View(texts.before), View(oldFile).substr(10, at), texts.steps};
-        EXPECT_FALSE(PackByRecipe(View(recipe), View(texts.after), file.size(), shorter)) << at;
     }
+    EXPECT_GT(unpacked, 3u);
+    for (std::size_t count = base.text.repetitions.size(); count > 0;)
+    {
+        count /= 2;
+        base.text.tokenEnd = base.text.repetitions[count].position;
+        base.text.repetitions.resize(count);
+        EXPECT_FALSE(PackByRecipe(View(recipe), View(texts.after), file.size(), base)) << count;
+    }
+}
+
+/// What zlib says: the text, or nothing for a damaged file.
+std::optional<std::string> UnpackedByZlib(std::string const& data, std::size_t maxBytes)
+{
+    z_stream stream{};
+    std::string text(maxBytes, ' ');
+    EXPECT_EQ(inflateInit2(&stream, -15), Z_OK);
+    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data.data()));
+    stream.avail_in = static_cast<uInt>(data.size());
+    stream.next_out = reinterpret_cast<Bytef*>(text.data());
+    stream.avail_out = static_cast<uInt>(text.size());
+    bool const isWhole = inflate(&stream, Z_FINISH) == Z_STREAM_END && stream.avail_in == 0;
+    text.resize(stream.total_out);
+    inflateEnd(&stream);
+    return isWhole ? std::optional<std::string>(std::move(text)) : std::nullopt;
+}
+
+TEST(PackedText, UnpacksWhatZlibUnpacks)
+{
+    constexpr std::size_t MOST_BYTES = 300000;
+    std::mt19937 random(20261124);
+    std::size_t stored = 0;
+    std::size_t damagedAccepted = 0;
+    for (int round = 0; round < 150; ++round)
+    {
+        SCOPED_TRACE(round);
+        std::string text = WordsOf(random(), random() % 100000);
+        text += round % 3 == 0 ? std::string(random() % 3000, 'x') : std::string(); // a repetition of itself
+        for (std::size_t i = round % 5 == 0 ? random() % 70000 : 0; i > 0; --i)
+        {
+            text += static_cast<char>(random()); // zlib stores what it cannot pack
+        }
+        std::string const file = GzipOf(text, round % 10, 8 + round % 2);
+        std::string data = file.substr(10, file.size() - 18);
+        std::size_t const usual = random() % 3 == 0 ? text.size() : random() % 200000;
+        std::optional<TokenizedText> const unpacked = Inflate(View(data), 0, usual, MOST_BYTES);
+        ASSERT_TRUE(unpacked && Text(unpacked->text) == text);
+        EXPECT_TRUE(AreInside(unpacked->repetitions, unpacked->tokenEnd));
+        EXPECT_LE(unpacked->tokenEnd, text.size());
+        stored += unpacked->tokenEnd < text.size() ? 1 : 0;
+        EXPECT_FALSE(Inflate(View(data), 1, usual, MOST_BYTES));
+        EXPECT_FALSE(Inflate(View(data).substr(0, random() % data.size()), 0, usual, MOST_BYTES));
+        EXPECT_TRUE(text.empty() || !Inflate(View(data), 0, usual, text.size() - 1)) << "longer than allowed";
+        char& damaged = data[random() % data.size()];
+        damaged = static_cast<char>(damaged ^ (1 << random() % 8));
+        std::optional<std::string> const expected = UnpackedByZlib(data, MOST_BYTES);
+        std::optional<TokenizedText> const other = Inflate(View(data), 0, usual, MOST_BYTES);
+        EXPECT_TRUE(!expected || (other && Text(other->text) == *expected));
+        damagedAccepted += expected ? 1 : 0;
+    }
+    EXPECT_GT(stored, 15u);
+    EXPECT_GT(damagedAccepted, 2u);
 }
 
 } // namespace

@@ -74,6 +74,25 @@ std::uint32_t DistanceSymbolOf(std::uint16_t distance)
     return SymbolOf<1>(distance - 1u);
 }
 
+/// Writes the repetition \a token at \a target, and up to 15 bytes behind it.
+void Repeat(std::uint8_t* target, DeflateToken token)
+{
+    constexpr std::size_t BLOCK_BYTES = 16;
+    std::uint8_t const* const source = target - token.value;
+    if (token.value < BLOCK_BYTES)
+    {
+        for (std::size_t i = 0; i < token.length; ++i)
+        {
+            target[i] = source[i];
+        }
+        return;
+    }
+    for (std::size_t i = 0; i < token.length; i += BLOCK_BYTES)
+    {
+        std::memcpy(target + i, source + i, BLOCK_BYTES);
+    }
+}
+
 } // namespace
 
 void BitWriter::Append(Bytes bytes)
@@ -222,10 +241,17 @@ bool BlockCodes::ReadDynamic(BitReader& bits)
            m_distances.Build(all.data() + lengths, distances);
 }
 
-void BlockCodes::StartReading()
+bool BlockCodes::Start(BitReader& bits, BlockKind kind)
 {
-    m_lengths.MakeTable();
-    m_distances.MakeTable();
+    bool const hasCodes = kind == BlockKind::Fixed     ? SetFixed()
+                          : kind == BlockKind::Dynamic ? ReadDynamic(bits)
+                                                       : false;
+    if (hasCodes)
+    {
+        m_lengths.MakeTable();
+        m_distances.MakeTable();
+    }
+    return hasCodes;
 }
 
 [[gnu::always_inline]] inline bool BlockCodes::ReadNext(BitReader& bits, DeflateToken& token, bool& isEnd) const
@@ -259,22 +285,41 @@ bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
     return ReadNext(bits, token, isEnd);
 }
 
-std::size_t BlockCodes::Read(BitReader& bits, DeflateToken* tokens, std::size_t most, bool& isEnd) const
+bool BlockCodes::Read(BitReader& bits, TextInProgress& text) const
 {
-    BitReader reader = bits; // in registers
-    std::size_t taken = 0;
-    bool isGood = true;
-    bool isOver = false;
-    while (taken < most && isGood && !isOver)
+    BitReader reader = bits; // in registers, as the text's size
+    std::uint8_t* begin = text.Begin();
+    std::size_t limit = text.Limit();
+    std::size_t size = text.Size();
+    bool isEnd = false;
+    for (DeflateToken token; ReadNext(reader, token, isEnd) && !isEnd;)
     {
-        DeflateToken token;
-        isGood = ReadNext(reader, token, isOver);
-        tokens[taken] = token;
-        taken += isGood && !isOver ? 1 : 0;
+        if (size > limit)
+        {
+            text.SetSize(size);
+            if (!text.Grow())
+            {
+                return false;
+            }
+            begin = text.Begin();
+            limit = text.Limit();
+        }
+        if (token.length == 0)
+        {
+            begin[size++] = static_cast<std::uint8_t>(token.value);
+            continue;
+        }
+        if (token.value > size)
+        {
+            return false;
+        }
+        text.AddRepetition({static_cast<std::uint32_t>(size), token.length, token.value});
+        Repeat(begin + size, token);
+        size += token.length;
     }
+    text.SetSize(size);
     bits = reader;
-    isEnd = isOver && isGood;
-    return taken;
+    return isEnd && !reader.IsOverrun();
 }
 
 void BlockCodes::StartWriting()
@@ -292,21 +337,43 @@ void BlockCodes::StartWriting()
     }
 }
 
-bool BlockCodes::Write(BitWriter& bits, DeflateToken token) const
+[[gnu::always_inline]] inline bool BlockCodes::WriteRepetition(BitWriter& bits, Repetition repetition) const
 {
-    if (token.length == 0)
-    {
-        CodedBits const coded = m_lengths.Coded(token.value);
-        bits.Put(coded);
-        return coded.count > 0;
-    }
-    std::uint32_t const symbol = DistanceSymbolOf(token.value);
-    CodedBits const length = m_codedLengths[token.length];
+    std::uint32_t const symbol = DistanceSymbolOf(repetition.distance);
+    CodedBits const length = m_codedLengths[repetition.length];
     CodedBits const distance = m_distances.Coded(symbol);
-    std::uint32_t const offset = token.value - std::uint32_t(DISTANCES[symbol].base);
+    std::uint32_t const offset = repetition.distance - std::uint32_t(DISTANCES[symbol].base);
     bits.Put(length);
     bits.Put(distance.bits | offset << distance.count, distance.count + DISTANCES[symbol].bits);
     return length.count > 0 && distance.count > 0;
+}
+
+bool BlockCodes::Write(BitWriter& bits, TokenWalk& tokens, std::uint64_t count) const
+{
+    while (count > 0)
+    {
+        Bytes const literals = tokens.TakeLiterals(count);
+        for (std::uint8_t const literal : literals)
+        {
+            CodedBits const coded = m_lengths.Coded(literal);
+            if (coded.count == 0)
+            {
+                return false;
+            }
+            bits.Put(coded);
+        }
+        count -= literals.size();
+        if (count > 0)
+        {
+            std::optional<Repetition> const repetition = tokens.TakeRepetition();
+            if (!repetition || !WriteRepetition(bits, *repetition))
+            {
+                return false;
+            }
+            --count;
+        }
+    }
+    return true;
 }
 
 bool BlockCodes::WriteEnd(BitWriter& bits) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/TokenizedText.h"
 
 #include <array>
 #include <cstddef>
@@ -170,15 +171,6 @@ enum class BlockKind : std::uint8_t
     Dynamic = 2,
 };
 
-/// A literal byte, or a copy of earlier text.
-struct DeflateToken
-{
-    std::uint16_t length = 0; ///< 0 for a literal
-    std::uint16_t value = 0;  ///< the literal byte, or the distance
-
-    bool operator==(DeflateToken other) const { return length == other.length && value == other.value; }
-};
-
 /// The two codes of a block.
 class BlockCodes
 {
@@ -186,21 +178,23 @@ public:
     [[nodiscard]] bool SetFixed();
     /// Reads what comes before the tokens of a dynamic block.
     [[nodiscard]] bool ReadDynamic(BitReader& bits);
-    /// REQUIRES: before the first Read after the codes have changed.
-    void StartReading();
+    /// Reads what comes before the tokens of a block of this kind. False for a stored and for a damaged block.
+    [[nodiscard]] bool Start(BitReader& bits, BlockKind kind);
     /// Reads the next token, or sets \a isEnd at the end of the block. Returns false for damaged data.
+    /// REQUIRES: Start.
     [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd) const;
-    /// Reads the next tokens, at most \a most. Returns how many; fewer only with \a isEnd, and for damaged data.
-    [[nodiscard]] std::size_t Read(BitReader& bits, DeflateToken* tokens, std::size_t most, bool& isEnd) const;
+    /// Reads all tokens of the block. Returns false for damaged data, and if the text is too long.
+    [[nodiscard]] bool Read(BitReader& bits, TextInProgress& text) const;
     /// REQUIRES: before the first Write after the codes have changed.
     void StartWriting();
-    /// Returns false for a token without a code.
-    [[nodiscard]] bool Write(BitWriter& bits, DeflateToken token) const;
+    /// Writes the next \a count tokens. Returns false if there are fewer, and for a token without a code.
+    [[nodiscard]] bool Write(BitWriter& bits, TokenWalk& tokens, std::uint64_t count) const;
     [[nodiscard]] bool WriteEnd(BitWriter& bits) const;
 
 private:
     static constexpr std::size_t MAX_LENGTH = 258;
 
+    bool WriteRepetition(BitWriter& bits, Repetition repetition) const;
     bool ReadNext(BitReader& bits, DeflateToken& token, bool& isEnd) const;
 
     DeflateCode m_lengths;

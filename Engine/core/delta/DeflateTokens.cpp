@@ -3,10 +3,8 @@
 #include <zlib.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <new>
-#include <numeric>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -79,7 +77,8 @@ void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t leastBytes,
     auto const [oldBegin, begin, size] = like;
     for (std::size_t at = 0; at < size;)
     {
-        std::size_t const equal = EqualBytes(text.data() + begin + at, base.text.data() + oldBegin + at, size - at);
+        std::size_t const equal =
+            EqualBytes(text.data() + begin + at, base.text.text.data() + oldBegin + at, size - at);
         // The old tokens are read once and in order.
         bool const isBehind = runs.empty() || runs.back().oldBegin + runs.back().size <= oldBegin + at;
         if (equal >= leastBytes && isBehind)
@@ -105,42 +104,16 @@ std::vector<EqualRun> EqualRunsOf(PackedBase const& base, Bytes text, std::size_
     return runs;
 }
 
-/// The tokens of the new file.
-class WantedTokens
-{
-public:
-    explicit WantedTokens(Bytes data) : m_tokens(data) {}
-
-    [[nodiscard]] bool Take(DeflateToken& token)
-    {
-        bool const isTaken = m_tokens.Next(token);
-        m_made += isTaken ? BytesOf(token) : 0;
-        return isTaken;
-    }
-    /// False if no token ends at \a position.
-    [[nodiscard]] bool SkipTo(std::size_t position)
-    {
-        for (DeflateToken token; m_made < position && Take(token);)
-        {
-        }
-        return m_made == position;
-    }
-
-private:
-    TokenReader m_tokens;
-    std::size_t m_made = 0;
-};
-
 /// After a repetition, what zlib does depends only on its window and on the following text. So if a repetition ends at
 /// the same place in both texts, and windows and following texts are equal, the next tokens are equal, too.
 class TokenCopier
 {
 public:
-    TokenCopier(Bytes oldData, Bytes text, DeflateParameters parameters)
-        : m_old(oldData), m_text(text), m_parameters(parameters)
+    TokenCopier(TokenizedText const& old, Bytes text, DeflateParameters parameters)
+        : m_old(old), m_text(text), m_parameters(parameters)
     {
-        // Pages without tokens take no memory. A vector that grows would need the tokens twice.
-        m_tokens.reserve(text.size());
+        // Unused pages take no memory. A vector that grows would need the repetitions twice.
+        m_repetitions.reserve(text.size() / SHORTEST_REPETITION + 1);
     }
 
     [[nodiscard]] bool Copy(EqualRun const& run) { return Meet(run, run.begin + WINDOW_BYTES) && CopyOldTokens(run); }
@@ -161,7 +134,7 @@ public:
         return CopyTokens(corrections.Take()) && corrections.IsGood();
     }
     /// Finds the corrections of \a run. \a wanted reads the tokens of the text.
-    [[nodiscard]] bool FindCorrections(EqualRun const& run, WantedTokens& wanted, TokenCorrections& corrections);
+    [[nodiscard]] bool FindCorrections(EqualRun const& run, TokenWalk& wanted, TokenCorrections& corrections);
     [[nodiscard]] bool AddRest()
     {
         if (m_made == m_text.size())
@@ -176,12 +149,15 @@ public:
         }
         return m_made == m_text.size();
     }
-    DeflateTokens&& Take() { return std::move(m_tokens); }
+    Repetitions&& Take() { return std::move(m_repetitions); }
 
 private:
     void Add(DeflateToken token)
     {
-        m_tokens.push_back(token);
+        if (token.length > 0)
+        {
+            m_repetitions.push_back({static_cast<std::uint32_t>(m_made), token.length, token.value});
+        }
         m_made += BytesOf(token);
     }
 
@@ -194,7 +170,7 @@ private:
     /// False, without tokens, if there is no such place among \a meetingBytes. It may be tried again with more.
     bool Meet(EqualRun const& run, std::size_t first, std::size_t meetingBytes)
     {
-        std::size_t const count = m_tokens.size();
+        std::size_t const count = m_repetitions.size();
         std::size_t const made = m_made;
         std::size_t const last = first + meetingBytes;
         ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_parameters);
@@ -207,60 +183,64 @@ private:
                 return true;
             }
         }
-        m_tokens.resize(count);
+        m_repetitions.resize(count);
         m_made = made;
         return false;
     }
 
     /// True if a repetition of the old text ends at \a position.
-    bool IsOldEnd(std::size_t position)
-    {
-        while (m_oldMade < position && TakeOld())
-        {
-        }
-        return m_oldMade == position && m_oldToken.length > 0;
-    }
+    bool IsOldEnd(std::size_t position) { return m_old.SkipTo(position) && m_old.IsAfterRepetition(); }
 
     /// Ends after a repetition, so that zlib can continue.
     bool CopyOldTokens(EqualRun const& run)
     {
         std::size_t const end = run.oldBegin + run.size - TAIL_BYTES;
-        std::size_t count = m_tokens.size();
         std::size_t made = m_made;
-        while (m_oldMade < end && TakeOld())
+        while (m_old.Made() < end)
         {
-            Add(m_oldToken);
-            if (m_oldToken.length > 0)
+            m_made += m_old.TakeLiterals(end - m_old.Made()).size();
+            if (m_old.Made() == end)
             {
-                count = m_tokens.size();
-                made = m_made;
+                break;
             }
+            if (!CopyRepetition())
+            {
+                return false;
+            }
+            made = m_made;
         }
-        m_tokens.resize(count);
         m_made = made;
-        return m_oldMade >= end;
+        return true;
     }
 
     bool CopyTokens(std::uint64_t count)
     {
-        std::array<DeflateToken, 256> tokens;
         while (count > 0)
         {
-            std::size_t const wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, tokens.size()));
-            std::size_t const taken = m_old.Next(tokens.data(), wanted);
-            std::size_t const bytes =
-                std::accumulate(tokens.begin(), tokens.begin() + static_cast<std::ptrdiff_t>(taken), std::size_t(0),
-                                [](std::size_t sum, DeflateToken token) { return sum + BytesOf(token); });
-            if (taken < wanted || bytes > m_text.size() - m_made)
+            std::size_t const literals =
+                m_old.TakeLiterals(std::min<std::uint64_t>(count, m_text.size() - m_made)).size();
+            m_made += literals;
+            count -= literals;
+            if (count > 0 && !CopyRepetition())
             {
                 return false;
             }
-            m_tokens.insert(m_tokens.end(), tokens.begin(), tokens.begin() + static_cast<std::ptrdiff_t>(taken));
-            m_oldToken = tokens[taken - 1];
-            m_oldMade += bytes;
-            m_made += bytes;
-            count -= taken;
+            count -= count > 0 ? 1 : 0;
         }
+        return true;
+    }
+
+    /// False if the old text has no more, or if it is longer than the rest of the text.
+    bool CopyRepetition()
+    {
+        std::optional<Repetition> repetition = m_old.TakeRepetition();
+        if (!repetition || repetition->length > m_text.size() - m_made)
+        {
+            return false;
+        }
+        repetition->position = static_cast<std::uint32_t>(m_made);
+        m_repetitions.push_back(*repetition);
+        m_made = repetition->End();
         return true;
     }
 
@@ -280,52 +260,39 @@ private:
                  static_cast<std::uint16_t>(length > 0 ? distance : m_text[m_made])});
         }
         // The old tokens of the same bytes.
-        std::size_t const position = run.oldBegin + (m_made - run.begin);
-        while (m_oldMade < position && TakeOld())
-        {
-        }
-        return corrections.IsGood() && m_oldMade == position;
-    }
-
-    bool TakeOld()
-    {
-        bool const isTaken = m_old.Next(m_oldToken);
-        m_oldMade += isTaken ? BytesOf(m_oldToken) : 0;
-        return isTaken;
+        return corrections.IsGood() && m_old.SkipTo(run.oldBegin + (m_made - run.begin));
     }
 
     /// Takes wanted tokens after \a first, and old tokens, until both end at the same place. Empty if they do not.
-    DeflateTokens FindCorrection(EqualRun const& run, DeflateToken first, WantedTokens& wanted)
+    DeflateTokens FindCorrection(EqualRun const& run, DeflateToken first, TokenWalk& wanted)
     {
         DeflateTokens tokens{first};
         Add(first);
-        while (m_made - run.begin != m_oldMade - run.oldBegin)
+        while (m_made - run.begin != m_old.Made() - run.oldBegin)
         {
-            bool const isBehind = m_made - run.begin < m_oldMade - run.oldBegin;
-            DeflateToken token;
-            if (isBehind ? !wanted.Take(token) || BytesOf(token) > m_text.size() - m_made : !TakeOld())
+            bool const isBehind = m_made - run.begin < m_old.Made() - run.oldBegin;
+            std::optional<DeflateToken> const token = isBehind ? wanted.Take() : m_old.Take();
+            if (!token)
             {
                 return {};
             }
             if (isBehind)
             {
-                tokens.push_back(token);
-                Add(token);
+                tokens.push_back(*token);
+                Add(*token);
             }
         }
         return tokens;
     }
 
-    TokenReader m_old;
-    DeflateToken m_oldToken;
-    std::size_t m_oldMade = 0; ///< bytes of the old text whose tokens are read
+    TokenWalk m_old;
     Bytes m_text;
     DeflateParameters m_parameters;
-    DeflateTokens m_tokens;
+    Repetitions m_repetitions;
     std::size_t m_made = 0; ///< bytes of the text that the tokens make
 };
 
-bool TokenCopier::FindCorrections(EqualRun const& run, WantedTokens& wanted, TokenCorrections& corrections)
+bool TokenCopier::FindCorrections(EqualRun const& run, TokenWalk& wanted, TokenCorrections& corrections)
 {
     // The caller checks that zlib finds the wanted tokens up to here.
     if (!Meet(run, run.begin) || !wanted.SkipTo(m_made))
@@ -341,21 +308,21 @@ bool TokenCopier::FindCorrections(EqualRun const& run, WantedTokens& wanted, Tok
     std::size_t const stop = isLast ? end : end - TAIL_BYTES;
     for (bool isRepetition = true; m_made < stop || (!isLast && !isRepetition);)
     {
-        DeflateToken token;
         bool const isInside = isLast || m_made < end;
-        if (!isInside || corrections.size() > MAX_CORRECTION_NUMBERS || !wanted.Take(token) || !TakeOld() ||
-            BytesOf(token) > m_text.size() - m_made)
+        std::optional<DeflateToken> const token = wanted.Take();
+        std::optional<DeflateToken> const oldToken = m_old.Take();
+        if (!isInside || corrections.size() > MAX_CORRECTION_NUMBERS || !token || !oldToken)
         {
             return false;
         }
-        if (token == m_oldToken)
+        if (*token == *oldToken)
         {
-            Add(token);
+            Add(*token);
             ++copied;
-            isRepetition = token.length > 0;
+            isRepetition = token->length > 0;
             continue;
         }
-        DeflateTokens const tokens = FindCorrection(run, token, wanted);
+        DeflateTokens const tokens = FindCorrection(run, *token, wanted);
         if (tokens.empty())
         {
             return false;
@@ -374,67 +341,58 @@ bool TokenReader::StartBlock()
 {
     m_isLast = m_bits.Take(1) != 0;
     m_kind = static_cast<BlockKind>(m_bits.Take(2));
-    bool const hasCodes = m_kind == BlockKind::Fixed     ? m_codes->SetFixed()
-                          : m_kind == BlockKind::Dynamic ? m_codes->ReadDynamic(m_bits)
-                                                         : false;
-    if (hasCodes)
-    {
-        m_codes->StartReading();
-    }
-    return hasCodes;
+    return m_codes->Start(m_bits, m_kind);
 }
 
-std::size_t TokenReader::Next(DeflateToken* tokens, std::size_t most)
+bool TokenReader::Next(DeflateToken& token)
 {
-    std::size_t taken = 0;
-    while (taken < most && (m_isInBlock || (!m_isLast && StartBlock())))
+    while (m_isInBlock || (!m_isLast && StartBlock()))
     {
         bool isEnd = false;
-        std::size_t const now = m_codes->Read(m_bits, tokens + taken, most - taken, isEnd);
-        taken += now;
-        m_isInBlock = !isEnd;
-        if (now == 0 && !isEnd)
+        bool const isRead = Next(token, isEnd);
+        m_isInBlock = isRead && !isEnd;
+        if (!isEnd)
         {
-            break;
+            return isRead;
         }
     }
-    return taken;
+    return false;
 }
 
-std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters)
+std::optional<Repetitions> TokensOf(Bytes text, DeflateParameters parameters)
 {
-    TokenCopier copier({}, text, parameters);
-    return copier.AddRest() ? std::optional<DeflateTokens>(copier.Take()) : std::nullopt;
+    TokenizedText const old;
+    TokenCopier copier(old, text, parameters);
+    return copier.AddRest() ? std::optional<Repetitions>(copier.Take()) : std::nullopt;
 }
 
-std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters)
+std::optional<Repetitions> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters)
 {
     std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_RUN_BYTES);
-    TokenCopier copier(base.data, text, parameters);
+    TokenCopier copier(base.text, text, parameters);
     bool const isCopied =
         !runs.empty() && std::all_of(runs.begin(), runs.end(), [&copier](EqualRun run) { return copier.Copy(run); });
-    return isCopied && copier.AddRest() ? std::optional<DeflateTokens>(copier.Take()) : std::nullopt;
+    return isCopied && copier.AddRest() ? std::optional<Repetitions>(copier.Take()) : std::nullopt;
 }
 
-std::optional<DeflateTokens> CorrectedTokens(PackedBase const& base, Bytes text, DeflateParameters parameters,
-                                             TokenCorrections const& corrections)
+std::optional<Repetitions> CorrectedTokens(PackedBase const& base, Bytes text, DeflateParameters parameters,
+                                           TokenCorrections const& corrections)
 {
     std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_CORRECTED_RUN_BYTES);
-    TokenCopier copier(base.data, text, parameters);
+    TokenCopier copier(base.text, text, parameters);
     CorrectionReader reader(corrections);
     bool const isCopied =
         !runs.empty() &&
         std::all_of(runs.begin(), runs.end(), [&copier, &reader](EqualRun run) { return copier.Correct(run, reader); });
-    return isCopied && reader.IsAtEnd() && copier.AddRest() ? std::optional<DeflateTokens>(copier.Take())
-                                                            : std::nullopt;
+    return isCopied && reader.IsAtEnd() && copier.AddRest() ? std::optional<Repetitions>(copier.Take()) : std::nullopt;
 }
 
-std::optional<TokenCorrections> FindCorrections(PackedBase const& base, Bytes text, DeflateParameters parameters,
-                                                Bytes data)
+std::optional<TokenCorrections> FindCorrections(PackedBase const& base, TokenizedText const& text,
+                                                DeflateParameters parameters)
 {
-    std::vector<EqualRun> const runs = EqualRunsOf(base, text, LEAST_CORRECTED_RUN_BYTES);
-    TokenCopier copier(base.data, text, parameters);
-    WantedTokens wanted(data);
+    std::vector<EqualRun> const runs = EqualRunsOf(base, View(text.text), LEAST_CORRECTED_RUN_BYTES);
+    TokenCopier copier(base.text, View(text.text), parameters);
+    TokenWalk wanted(text);
     TokenCorrections corrections;
     bool const areFound =
         !runs.empty() && std::all_of(runs.begin(), runs.end(),

@@ -27,9 +27,7 @@ public:
     /// The next token of the block, or \a isEnd at its end. False for damaged data.
     [[nodiscard]] bool Next(DeflateToken& token, bool& isEnd) { return m_codes->Read(m_bits, token, isEnd); }
     /// The next token of all blocks. False at their end and for damaged data.
-    [[nodiscard]] bool Next(DeflateToken& token) { return Next(&token, 1) == 1; }
-    /// The next tokens of all blocks, at most \a most; fewer only before their end and before damaged data.
-    [[nodiscard]] std::size_t Next(DeflateToken* tokens, std::size_t most);
+    [[nodiscard]] bool Next(DeflateToken& token);
 
 private:
     BitReader m_bits;
@@ -49,26 +47,25 @@ struct DeflateParameters
 /// An old packed text, and the steps that make the new text from it.
 struct PackedBase
 {
-    Bytes text;
-    Bytes data; ///< the text deflated
+    TokenizedText text;
     std::vector<PatchStep> steps;
 };
 
 /// The tokens of \a text; nothing if zlib leaves a part of it unpacked. Throws std::bad_alloc.
-[[nodiscard]] std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters);
+[[nodiscard]] std::optional<Repetitions> TokensOf(Bytes text, DeflateParameters parameters);
 
 /// The same tokens if \a base was deflated with the same parameters, otherwise other ones. They are copied from \a base
 /// where the texts are equal, and zlib finds the others. Nothing if no part can be copied. Throws std::bad_alloc.
-[[nodiscard]] std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters);
+[[nodiscard]] std::optional<Repetitions> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters);
 
 /// The tokens of \a text by those of \a base and their corrections. zlib finds only those outside equal runs. Nothing
 /// if the corrections are damaged. Throws std::bad_alloc.
-[[nodiscard]] std::optional<DeflateTokens>
+[[nodiscard]] std::optional<Repetitions>
 CorrectedTokens(PackedBase const& base, Bytes text, DeflateParameters parameters, TokenCorrections const& corrections);
 
-/// The corrections that make the tokens of \a data, which is \a text deflated; nothing if there are too many, or if no
-/// part can be copied. The caller checks the result of CorrectedTokens. Throws std::bad_alloc.
-[[nodiscard]] std::optional<TokenCorrections> FindCorrections(PackedBase const& base, Bytes text,
-                                                              DeflateParameters parameters, Bytes data);
+/// The corrections that make the tokens of \a text; nothing if there are too many, or if no part can be copied. The
+/// caller checks the result of CorrectedTokens. Throws std::bad_alloc.
+[[nodiscard]] std::optional<TokenCorrections> FindCorrections(PackedBase const& base, TokenizedText const& text,
+                                                              DeflateParameters parameters);
 
 } // namespace Pelnar::Engine

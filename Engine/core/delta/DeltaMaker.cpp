@@ -124,11 +124,10 @@ private:
     {
         OpenedFile const oldFile(m_old.folder / unit.sources.front().path);
         OpenedFile const newFile = OpenNew(m_manifest.entries[unit.targets.front()].path);
-        ByteBuffer const oldText = UnpackText(oldFile.Content()).value();
-        ByteBuffer const newText = UnpackText(newFile.Content()).value();
+        PackedBase const base{UnpackText(oldFile.Content()).value(), steps};
+        TokenizedText const newText = UnpackText(newFile.Content()).value();
         ByteBuffer& recipe = m_recipes.at(unit.targets.front());
-        PackedBase const base{View(oldText), PackedDataOf(oldFile.Content()), steps};
-        recipe = FasterRecipe(recipe, newFile.Content(), View(newText), base);
+        recipe = FasterRecipe(recipe, newFile.Content(), newText, base);
     }
 
     /// Searches the units \a numbers again, and treats them as ordinary files.
@@ -210,8 +209,8 @@ private:
 
     void AddPacked(ByteBuffer const& recipe, Bytes oldFile, std::vector<PatchStep> const& steps, Bytes newFile)
     {
-        ByteBuffer const oldText = UnpackText(oldFile).value();
-        ByteBuffer const newText = UnpackText(newFile).value();
+        ByteBuffer const oldText = UnpackText(oldFile).value().text;
+        ByteBuffer const newText = UnpackText(newFile).value().text;
         PlainText old({View(oldText)});
         m_writer.AddRecord(View(recipe));
         m_writer.Add(old, steps, View(newText));

@@ -153,7 +153,7 @@ private:
         for (std::uint32_t const target : unit.targets)
         {
             DeltaEntry& entry = m_manifest.entries[target];
-            DeltaOutcome outcome = unit.textBytes > 0 ? MakeText(entry, std::move(mappings.front()), unit.textBytes)
+            DeltaOutcome outcome = unit.textBytes > 0         ? MakeText(entry, files.front(), unit.textBytes)
                                    : unit.spanChanges.empty() ? MakeFile(entry, old)
                                                               : MakeProgram(entry, files.front(), unit.spanChanges);
             if (!outcome.HasSucceeded())
@@ -218,29 +218,30 @@ private:
     }
 
     /// The file is written when its text is packed.
-    DeltaOutcome MakeText(DeltaEntry& entry, std::unique_ptr<FileMapping> oldFile, std::uint64_t textBytes)
+    DeltaOutcome MakeText(DeltaEntry& entry, Bytes oldFile, std::uint64_t textBytes)
     {
-        std::optional<ByteBuffer> oldText = UnpackText(oldFile->Content());
+        std::optional<TokenizedText> oldText = UnpackText(oldFile);
         if (!oldText)
         {
             return {DeltaError::BaseDiffers, {}, 0};
         }
         errno = 0;
-        std::unique_ptr<PackedFile> file(new PackedFile{entry, std::move(oldFile), std::move(*oldText), {}, {}, {}});
+        std::unique_ptr<PackedFile> file(new PackedFile{entry, {std::move(*oldText), {}}, {}, {}});
         file->text.reserve(static_cast<std::size_t>(textBytes));
         auto const append = [&text = file->text](Bytes piece)
         {
             text.insert(text.end(), piece.begin(), piece.end());
             return true;
         };
+        auto& [before, steps] = file->base;
         PatchVerdict verdict = m_patches.TakeRecord(entry.size, file->recipe);
         verdict = verdict == PatchVerdict::Applied
-                      ? m_patches.TakeSteps(file->oldText.size(), textBytes, MAX_MAPPED_STEPS, file->steps)
+                      ? m_patches.TakeSteps(before.text.size(), textBytes, MAX_MAPPED_STEPS, steps)
                       : verdict;
         if (verdict == PatchVerdict::Applied)
         {
-            PlainText old({View(file->oldText)});
-            verdict = m_patches.MakeBySteps(old, file->steps, textBytes, append);
+            PlainText old({View(before.text)});
+            verdict = m_patches.MakeBySteps(old, steps, textBytes, append);
         }
         DeltaOutcome outcome = OutcomeOf(verdict);
         if (outcome.HasSucceeded() && m_packing.Bytes() + file->Bytes() > MAX_PACKING_BYTES)

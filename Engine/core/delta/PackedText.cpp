@@ -2,10 +2,7 @@
 
 #include "Engine/core/delta/ManifestBytes.h"
 
-#include <zlib.h>
-
 #include <algorithm>
-#include <new>
 
 namespace Pelnar::Engine
 {
@@ -14,7 +11,6 @@ namespace
 
 constexpr std::size_t FIXED_HEADER_BYTES = 10;
 constexpr std::size_t TRAILER_BYTES = 8;
-constexpr int WINDOW_BITS = -15; ///< deflated data without a header
 constexpr std::uint64_t MAX_BLOCKS = 1u << 16;
 constexpr std::uint8_t MAX_LEVEL = 9;
 constexpr std::uint8_t MAX_MEMORY = 9;
@@ -164,7 +160,7 @@ private:
         bool const isKnown = parameters.level >= 1 && parameters.level <= MAX_LEVEL && parameters.memory >= 1 &&
                              parameters.memory <= MAX_MEMORY;
         int const copying = level - parameters.level;
-        std::optional<DeflateTokens> tokens;
+        std::optional<Repetitions> tokens;
         if (isKnown && copying == CORRECTS_TOKENS)
         {
             tokens = CorrectedTokens(m_base, m_text, parameters, TakeCorrections());
@@ -173,7 +169,8 @@ private:
         {
             tokens = copying == 0 ? TokensOf(m_text, parameters) : TokensLike(m_base, m_text, parameters);
         }
-        m_tokens = std::move(tokens).value_or(DeflateTokens());
+        m_repetitions = std::move(tokens).value_or(Repetitions());
+        m_tokens.emplace(m_text, m_repetitions);
         return tokens.has_value();
     }
 
@@ -199,15 +196,8 @@ private:
             return false;
         }
         m_codes->StartWriting();
-        for (std::uint64_t i = 0; i < count; ++i)
-        {
-            bool const isWritten = m_next < m_tokens.size() && m_codes->Write(m_bits, m_tokens[m_next++]);
-            if (!isWritten || m_bits.Size() > m_maxSize)
-            {
-                return false;
-            }
-        }
-        return m_codes->WriteEnd(m_bits) && m_recipe.Error() == DeltaManifestError::None;
+        bool const isWritten = m_codes->Write(m_bits, *m_tokens, count) && m_codes->WriteEnd(m_bits);
+        return isWritten && m_bits.Size() <= m_maxSize && m_recipe.Error() == DeltaManifestError::None;
     }
 
     bool CopyCodes()
@@ -228,8 +218,8 @@ private:
     Bytes m_text;
     std::size_t m_maxSize;
     PackedBase const& m_base;
-    DeflateTokens m_tokens;
-    std::size_t m_next = 0; ///< of the tokens
+    Repetitions m_repetitions;
+    std::optional<TokenWalk> m_tokens;
     BitWriter m_bits;
     std::unique_ptr<BlockCodes> m_codes = std::make_unique<BlockCodes>();
 };
@@ -242,11 +232,11 @@ bool IsRecipe(ByteBuffer const& recipe, Bytes text, Bytes file, PackedBase const
 
 /// \a recipe with corrections of copied tokens; nothing if they take too much space, or do not make the file. The
 /// recipe's level is at \a levelAt.
-std::optional<ByteBuffer> CorrectedRecipe(ByteBuffer const& recipe, std::size_t levelAt, Bytes file, Bytes text,
-                                          PackedBase const& base)
+std::optional<ByteBuffer> CorrectedRecipe(ByteBuffer const& recipe, std::size_t levelAt, Bytes file,
+                                          TokenizedText const& text, PackedBase const& base)
 {
     std::optional<TokenCorrections> const corrections =
-        FindCorrections(base, text, {recipe[levelAt], recipe[levelAt + 1]}, PackedDataOf(file));
+        FindCorrections(base, text, {recipe[levelAt], recipe[levelAt + 1]});
     if (!corrections)
     {
         return std::nullopt;
@@ -260,40 +250,19 @@ std::optional<ByteBuffer> CorrectedRecipe(ByteBuffer const& recipe, std::size_t 
     ByteBuffer corrected = recipe;
     corrected[levelAt] |= CORRECTS_TOKENS;
     corrected.insert(corrected.begin() + static_cast<std::ptrdiff_t>(levelAt + 2), numbers.begin(), numbers.end());
-    bool const isSmall = numbers.size() <= text.size() / TEXT_BYTES_FOR_CORRECTION_BYTE;
-    return isSmall && IsRecipe(corrected, text, file, base) ? std::optional<ByteBuffer>(std::move(corrected))
-                                                            : std::nullopt;
+    bool const isSmall = numbers.size() <= text.text.size() / TEXT_BYTES_FOR_CORRECTION_BYTE;
+    return isSmall && IsRecipe(corrected, View(text.text), file, base) ? std::optional<ByteBuffer>(std::move(corrected))
+                                                                       : std::nullopt;
 }
 
 } // namespace
 
-std::optional<ByteBuffer> UnpackText(Bytes file)
+std::optional<TokenizedText> UnpackText(Bytes file)
 {
     std::size_t const header = HeaderBytes(file);
-    if (header == 0 || file.size() > MAX_PACKED_TEXT_BYTES)
-    {
-        return std::nullopt;
-    }
-    z_stream stream{};
-    if (inflateInit2(&stream, WINDOW_BITS) != Z_OK)
-    {
-        throw std::bad_alloc();
-    }
-    ByteBuffer text;
-    stream.next_in = const_cast<Bytef*>(file.data() + header);
-    stream.avail_in = static_cast<uInt>(file.size() - header);
-    int answer = Z_OK;
-    while (answer == Z_OK && text.size() < MAX_PACKED_TEXT_BYTES)
-    {
-        text.resize(text.empty() ? FirstTextBytes(file) : std::min(MAX_PACKED_TEXT_BYTES, text.size() * 2));
-        stream.next_out = text.data() + stream.total_out;
-        stream.avail_out = static_cast<uInt>(text.size() - stream.total_out);
-        answer = inflate(&stream, Z_NO_FLUSH);
-    }
-    text.resize(stream.total_out);
-    bool const isOne = answer == Z_STREAM_END && stream.avail_in == TRAILER_BYTES;
-    inflateEnd(&stream);
-    return isOne ? std::optional<ByteBuffer>(std::move(text)) : std::nullopt;
+    return header == 0 || file.size() > MAX_PACKED_TEXT_BYTES
+               ? std::nullopt
+               : Inflate(file.substr(header), TRAILER_BYTES, FirstTextBytes(file), MAX_PACKED_TEXT_BYTES);
 }
 
 Bytes PackedDataOf(Bytes file)
@@ -336,7 +305,7 @@ std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
     return std::nullopt;
 }
 
-ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base)
+ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, TokenizedText const& text, PackedBase const& base)
 {
     ManifestBytes::Reader reader(View(recipe));
     std::uint64_t const header = reader.Number();
@@ -348,7 +317,7 @@ ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, Packed
     }
     ByteBuffer faster = recipe;
     faster[levelAt] |= COPIES_TOKENS;
-    return IsRecipe(faster, text, file, base) ? faster : recipe;
+    return IsRecipe(faster, View(text.text), file, base) ? faster : recipe;
 }
 
 } // namespace Pelnar::Engine

@@ -15,9 +15,9 @@ namespace Pelnar::Engine
 constexpr std::size_t MAX_PACKED_TEXT_BYTES = 4u << 20;
 
 /// The text in a gzip file of one member; nothing for another file or a longer text.
-[[nodiscard]] std::optional<ByteBuffer> UnpackText(Bytes file);
+[[nodiscard]] std::optional<TokenizedText> UnpackText(Bytes file);
 
-/// The deflated data of a file that UnpackText accepts, and the bytes after them.
+/// The deflated data of a gzip file, and the bytes after them. Nothing for another file.
 [[nodiscard]] Bytes PackedDataOf(Bytes file);
 
 /// Packs \a text by \a recipe; nothing if the recipe is damaged or makes more than \a maxSize bytes. \a base is the old
@@ -29,6 +29,7 @@ constexpr std::size_t MAX_PACKED_TEXT_BYTES = 4u << 20;
 [[nodiscard]] std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text);
 
 /// The recipe that copies tokens from \a base, if it makes \a file from \a text, otherwise \a recipe.
-[[nodiscard]] ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base);
+[[nodiscard]] ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, TokenizedText const& text,
+                                      PackedBase const& base);
 
 } // namespace Pelnar::Engine

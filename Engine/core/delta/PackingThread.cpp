@@ -7,7 +7,6 @@ namespace Pelnar::Engine
 
 void PackedFile::Pack()
 {
-    PackedBase const base{View(oldText), PackedDataOf(oldFile->Content()), std::move(steps)};
     packed = PackByRecipe(View(recipe), View(text), static_cast<std::size_t>(entry.size), base);
     if (packed && packed->size() != entry.size)
     {

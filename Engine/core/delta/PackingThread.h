@@ -19,15 +19,13 @@ namespace Pelnar::Engine
 struct PackedFile
 {
     DeltaEntry& entry;
-    std::unique_ptr<FileMapping> oldFile;
-    ByteBuffer oldText;
-    std::vector<PatchStep> steps; ///< from the old text to the text
+    PackedBase base; ///< the old text
     ByteBuffer recipe;
     ByteBuffer text;
     std::optional<ByteBuffer> packed = {}; ///< the result; empty if the recipe does not make a file of the entry's size
     std::atomic<bool> isDone = false;
 
-    std::size_t Bytes() const { return oldText.size() + text.size(); }
+    std::size_t Bytes() const { return base.text.Bytes() + text.size(); }
     void Pack();
 };
 

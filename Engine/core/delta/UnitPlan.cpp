@@ -143,9 +143,10 @@ private:
         {
             return false;
         }
-        std::optional<ByteBuffer> const text = UnpackText(file);
-        std::optional<ByteBuffer> recipe = text && !text->empty() ? FindRecipe(file, View(*text)) : std::nullopt;
-        candidate.unit.textBytes = recipe ? text->size() : 0;
+        std::optional<TokenizedText> const text = UnpackText(file);
+        std::optional<ByteBuffer> recipe =
+            text && !text->text.empty() ? FindRecipe(file, View(text->text)) : std::nullopt;
+        candidate.unit.textBytes = recipe ? text->text.size() : 0;
         candidate.recipe = std::move(recipe).value_or(ByteBuffer());
         return candidate.unit.textBytes > 0;
     }

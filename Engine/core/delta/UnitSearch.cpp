@@ -34,7 +34,7 @@ public:
         Bytes const plain(m_text.data(), m_text.size());
         if (unit.textBytes > 0)
         {
-            m_text = UnpackText(plain).value();
+            m_text = UnpackText(plain).value().text;
         }
         if (std::optional<ImageLayout> const layout = unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
         {
@@ -101,7 +101,8 @@ public:
         m_index.emplace(m_unit, m_oldFolder);
         if (m_unit.textBytes > 0)
         {
-            m_changed = UnpackText(OpenedFile(m_newFolder / m_entries[m_unit.targets.front()].path).Content()).value();
+            OpenedFile const file(m_newFolder / m_entries[m_unit.targets.front()].path);
+            m_changed = UnpackText(file.Content()).value().text;
         }
         if (!m_unit.spanChanges.empty())
         {

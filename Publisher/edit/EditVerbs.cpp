@@ -59,7 +59,7 @@ void Store(NewFeed edited, bool wasSigned, ISigner const* signer, EditOptions co
         }
         return;
     }
-    SignedFeedBytes const feed = SignFeed(name, edited.bytes, *signer, options.terms);
+    SignedFeedBytes const feed = SignFeed(name, edited.bytes, *signer, options.terms, console);
     edited.bytes = feed.bytes;
     ReplaceFeed(edited, console);
     console.Print(u"%1: %2"_s.arg(name, TextOf(feed.terms)));

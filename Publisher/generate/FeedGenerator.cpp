@@ -309,7 +309,7 @@ private:
         {
             return bytes;
         }
-        SignedFeedBytes signedFeed = SignFeed(m_feedFile, bytes, m_key, m_request.terms);
+        SignedFeedBytes signedFeed = SignFeed(m_feedFile, bytes, m_key, m_request.terms, m_console);
         m_terms = signedFeed.terms;
         return signedFeed.bytes;
     }

@@ -38,7 +38,7 @@ qint64 PublishedSerial(Engine::FeedChannel const& channel)
 }
 
 qint64 NextSerial(QString const& name, Engine::FeedContent const& content, SigningTerms const& terms,
-                  QDateTime const& now)
+                  QDateTime const& now, Console const& console)
 {
     qint64 const published = PublishedSerial(content.channel);
     if (terms.serial && *terms.serial <= published)
@@ -52,7 +52,7 @@ qint64 NextSerial(QString const& name, Engine::FeedContent const& content, Signi
             {name, u"has the greatest possible serial"_s,
              u"clients accept another feed only once a key statement revokes the key that signed this one"_s});
     }
-    CheckClock(name, content, {published, terms.serial.has_value()}, now);
+    CheckClock(name, content, {published, terms.serial.has_value()}, now, console);
     // At least the current time, so that a feed that is made again from nothing has a higher serial than the published
     // one.
     return terms.serial ? *terms.serial : std::max(published + 1, now.toSecsSinceEpoch());
@@ -215,11 +215,12 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QString con
     return content + (content.endsWith('\n') ? "" : "\n") + line;
 }
 
-SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms)
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms,
+                         Console const& console)
 {
     QDateTime const now = QDateTime::currentDateTimeUtc();
     SignedFeedBytes result;
-    result.terms.serial = NextSerial(name, ReadAsClient(name, content), terms, now);
+    result.terms.serial = NextSerial(name, ReadAsClient(name, content), terms, now, console);
     result.terms.expires = now.addDays(terms.validDays);
     result.bytes = WithTerms(name, content, result.terms);
     if (!result.bytes.endsWith('\n'))

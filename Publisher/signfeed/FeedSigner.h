@@ -48,7 +48,8 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QString con
 
 /// Writes the serial and the expiry into \a content and signs it. Throws Refusal if clients cannot read the feed, if it
 /// is not UTF-8 or has no channel, if the serial would not grow, and if this computer's clock cannot be right.
-SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms);
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms,
+                         Console const& console);
 
 /// "signed with serial 8, expires 2026-12-20T08:00:00Z"
 QString TextOf(Engine::FeedValidity const& terms);

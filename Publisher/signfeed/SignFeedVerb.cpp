@@ -39,7 +39,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     {
         bare = WithKeyStatement(name, bare, QString::fromStdString(options.keyStatement), *signer);
     }
-    SignedFeedBytes const feed = SignFeed(name, bare, *signer, options.terms);
+    SignedFeedBytes const feed = SignFeed(name, bare, *signer, options.terms, console);
     ReplaceFeed({output, QFileInfo(name).path(), feed.bytes, content.isSigned ? bytes.size() : 0}, console);
     console.Print(u"%1: %2"_s.arg(output, TextOf(feed.terms)));
     return ExitStatus::Clean;

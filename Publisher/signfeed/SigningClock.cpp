@@ -48,7 +48,7 @@ qint64 NewestDate(Engine::FeedContent const& content)
 } // namespace
 
 void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSerials const& serials,
-                QDateTime const& time)
+                QDateTime const& time, Console const& console)
 {
     qint64 const now = time.toSecsSinceEpoch();
     if (!IsTime(now))
@@ -80,10 +80,16 @@ void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSer
         RefuseClock(name, u"has an item of %1"_s.arg(MomentText(newest)), now,
                     u"set the clock, or correct the item's pubDate; "_s + vouch);
     }
-    // Only of a feed that was signed before: a feed may be old when its publisher begins to sign.
     if (signedAt > 0 && now > signedAt + A_YEAR)
     {
         RefuseClock(name, u"was last signed at %1"_s.arg(MomentText(signedAt)), now, u"set the clock; "_s + vouch);
+    }
+    if (signedAt == 0 && newest > 0 && now > newest + A_YEAR)
+    {
+        console.Warn(
+            {name,
+             u"has no item after %1, but this computer's clock says %2"_s.arg(MomentText(newest), MomentText(now)),
+             u"check the clock: if it is ahead, later feeds need a --serial until then"_s});
     }
 }
 

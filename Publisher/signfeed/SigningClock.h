@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
+#include "Publisher/Console.h"
 
 #include <QDateTime>
 
@@ -17,8 +18,8 @@ struct FeedSerials
 
 /// Throws Refusal if \a now cannot be right: it is before 2020 or after 2099, or it is far from the times of
 /// \a content, the feed in the file \a name. With a given serial a person vouches for the clock, and these times are
-/// not compared.
+/// not compared. A feed that was never signed may be old, so \a console is only warned of one without a recent item.
 void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSerials const& serials,
-                QDateTime const& now);
+                QDateTime const& now, Console const& console);
 
 } // namespace Pelnar::Publisher

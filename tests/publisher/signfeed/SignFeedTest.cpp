@@ -15,6 +15,7 @@
 
 #include <limits>
 #include <ostream>
+#include <sstream>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -182,6 +183,20 @@ TEST_F(SignFeedTest, ClockThatIsFarAheadIsTold)
     EXPECT_EQ(Run().status, 0);
 }
 
+TEST_F(SignFeedTest, FirstSignatureLongAfterTheNewestItemIsDoubted)
+{
+    for (int const days : {300, 400})
+    {
+        QByteArray const date = QDateTime::currentDateTimeUtc().addDays(-days).toString(Qt::RFC2822Date).toLatin1();
+        Put(QByteArray(PLAIN).replace("<item/>", "<item><pubDate>" + date + "</pubDate></item>"));
+        ToolRun const run = Run();
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.err.find("feed.xml: has no item after ") != std::string::npos, days == 400) << run.err;
+        EXPECT_EQ(run.err.find("; check the clock: ") != std::string::npos, days == 400) << run.err;
+        EXPECT_EQ(Run().err, "") << "the signature has a date now";
+    }
+}
+
 TEST_F(SignFeedTest, ClockThatIsBehindTheFeedsItemsOrItsFileIsTold)
 {
     QByteArray const item = "<item><pubDate>" +
@@ -200,10 +215,13 @@ TEST_F(SignFeedTest, ClockThatIsBehindTheFeedsItemsOrItsFileIsTold)
 /// The message of the check at \a now; empty if it finds nothing.
 std::string ToldOfClock(qint64 now, qint64 publishedSerial, bool isNextGiven)
 {
+    std::istringstream in;
+    std::ostringstream out;
+    Publisher::Console const console{in, {out}, {out}};
     try
     {
         Publisher::CheckClock(Regular("/absent/feed.xml"), {}, {publishedSerial, isNextGiven},
-                              QDateTime::fromSecsSinceEpoch(now, Qt::UTC));
+                              QDateTime::fromSecsSinceEpoch(now, Qt::UTC), console);
     }
     catch (Publisher::Refusal const& refusal)
     {

@@ -55,6 +55,10 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
         }
         clients.push_back(client);
     }
+    if (clients.empty())
+    {
+        RefuseLine(name, 0, u"names no version"_s);
+    }
     std::stable_sort(clients.begin(), clients.end(),
                      [](ClientShare const& a, ClientShare const& b) { return a.share > b.share; });
     return clients;

@@ -18,8 +18,8 @@ struct ClientShare
 };
 
 /// The list in the file \a name, the largest share first. A line has a version and its share, a number above 0. Empty
-/// lines and lines that begin with "#" are ignored. Throws Refusal for any other line, and for a version that is listed
-/// twice.
+/// lines and lines that begin with "#" are ignored. Throws Refusal for any other line, for a version that is listed
+/// twice, and for a list without a version.
 std::vector<ClientShare> ReadClientShares(QString const& name);
 
 } // namespace Pelnar::Publisher

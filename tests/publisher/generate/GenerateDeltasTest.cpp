@@ -53,9 +53,9 @@ TEST(Generate, AListOfClientsThatSaysNothingIsRefused)
     folder.PutVersion("1.0");
     QTemporaryDir const place;
     for (QByteArray const& text :
-         {QByteArray("1.0\n"), QByteArray("1.0 many\n"), QByteArray("1.0 0\n"), QByteArray("1.0 -1\n"),
-          QByteArray("one 5\n"), QByteArray("1.0 5 7\n"), QByteArray("1.0 inf\n"), QByteArray("1.0 5\n1.0.0 6\n"),
-          QByteArray("1.0 5\n\0\nnone", 12)})
+         {QByteArray(""), QByteArray("\n# of last week\n"), QByteArray("1.0\n"), QByteArray("1.0 many\n"),
+          QByteArray("1.0 0\n"), QByteArray("1.0 -1\n"), QByteArray("one 5\n"), QByteArray("1.0 5 7\n"),
+          QByteArray("1.0 inf\n"), QByteArray("1.0 5\n1.0.0 6\n"), QByteArray("1.0 5\n\0\nnone", 12)})
     {
         SCOPED_TRACE(text.toStdString());
         QString const clients = place.filePath(QStringLiteral("clients"));

@@ -21,7 +21,6 @@ namespace
 constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
 /// Of a folder: others may open the files whose names they know.
 constexpr mode_t ENTERED_BY_OTHERS = S_IXGRP | S_IXOTH;
-QString const KEY_REASON = u"it is a private key"_s;
 /// A larger file is an archive and not a private key.
 constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
 /// The lengths of a signing key: the seed, or the seed with the public key.
@@ -114,6 +113,11 @@ bool HoldsKey(int file, qint64 size)
     return IsPemKey(content) || IsMarkedKey(content) || IsDerKey(content) || IsSigningKey(content);
 }
 
+bool IsKey(int file, QString const& path, qint64 size)
+{
+    return HasKeyName(path) || HoldsKey(file, size);
+}
+
 } // namespace
 
 ServedFile OpenServedFile(int folderFd, QString const& path)
@@ -133,9 +137,9 @@ ServedFile OpenServedFile(int folderFd, QString const& path)
     {
         return {{}, u"only its owner may read it"_s};
     }
-    if (HasKeyName(path) || HoldsKey(file.Get(), status.st_size))
+    if (IsKey(file.Get(), path, status.st_size))
     {
-        return {{}, KEY_REASON};
+        return {{}, u"it is a private key"_s};
     }
     return {std::move(file), {}};
 }
@@ -145,8 +149,12 @@ std::vector<QString> FindHiddenKeys(int folderFd)
     std::vector<QString> paths;
     auto const visit = [&](std::string const& path, int, std::string const&, struct stat const& status)
     {
+        bool const isOfVersionControl = path.front() == '.' || path.find("/.") != std::string::npos;
+        Engine::UniqueFd const file = S_ISREG(status.st_mode) && !isOfVersionControl
+                                          ? Engine::TreeAccess(folderFd).OpenFile(path)
+                                          : Engine::UniqueFd();
         QString const name = QFile::decodeName(path.c_str());
-        if (S_ISREG(status.st_mode) && OpenServedFile(folderFd, name).hiddenBecause == KEY_REASON)
+        if (file && IsKey(file.Get(), name, status.st_size))
         {
             paths.push_back(name);
         }

@@ -22,7 +22,8 @@ struct ServedFile
 /// that only their owner may read, private keys (by name or content), and everything in a hidden folder.
 ServedFile OpenServedFile(int folderFd, QString const& path);
 
-/// The paths of the private keys in the folder open at \a folderFd, and below it, as far as it can be read.
+/// The paths of the private keys in the folder open at \a folderFd, and below it, as far as it can be read. Hidden
+/// names are left out.
 std::vector<QString> FindHiddenKeys(int folderFd);
 
 } // namespace Pelnar::Publisher

@@ -102,15 +102,18 @@ TEST_F(Serve, KeyOfTheServerItselfIsHidden)
     TestCertificates certificates;
     certificates.Signed("127.0.0.1");
     ASSERT_TRUE(QFile::copy(certificates.KeyFile(), Folder() + QStringLiteral("/server-identity")));
-    ASSERT_EQ(::chmod((m_folder.Path() + "/server-identity").c_str(), 0644), 0);
-    Server server({Folder()});
-    EXPECT_EQ(Get(server.Address(), "/server-identity").Status(), NOT_FOUND);
-    std::string const log = server.Log();
-    EXPECT_EQ(log.find("warning: " + m_folder.Path() +
-                       "/server-identity: is not served, because it is or resembles a private key; an upload "
-                       "of this folder would publish it; move it to another folder\n"),
-              0u)
-        << log;
+    for (mode_t const mode : {0644, 0600})
+    {
+        ASSERT_EQ(::chmod((m_folder.Path() + "/server-identity").c_str(), mode), 0);
+        Server server({Folder()});
+        EXPECT_EQ(Get(server.Address(), "/server-identity").Status(), NOT_FOUND);
+        std::string const log = server.Log();
+        EXPECT_EQ(log.find("warning: " + m_folder.Path() +
+                           "/server-identity: is not served, because it is or resembles a private key; an upload "
+                           "of this folder would publish it; move it to another folder\n"),
+                  0u)
+            << log;
+    }
 }
 
 TEST_F(Serve, HiddenFileIsNotToldFromAMissingOne)

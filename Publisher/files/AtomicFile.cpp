@@ -173,13 +173,14 @@ void AtomicFile::NameForNow()
 
 void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last)
 {
-    // The slow steps come first, so that little time is left for an interruption between the first name and the last.
+    // The slow steps come first, so that little time is left for an interruption between the first name, which may be
+    // hidden, and the last.
     last.Sync(last.m_descriptor);
-    last.LinkHidden();
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
         file->Sync(file->m_descriptor);
     }
+    last.LinkHidden();
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
         file->NameForNow();

@@ -25,6 +25,8 @@ namespace
 {
 
 std::vector<std::string> calls;
+/// Those before the first file got a hidden name.
+std::vector<std::string> callsBeforeLink;
 std::string failingCall;
 
 std::string KindOf(int fd)
@@ -58,6 +60,12 @@ extern "C" int renameat2(int oldFolder, char const* oldName, int newFolder, char
                          unsigned flags) noexcept
 {
     return Fails("rename") ? -1 : int(::syscall(SYS_renameat2, oldFolder, oldName, newFolder, newName, flags));
+}
+
+extern "C" int linkat(int oldFolder, char const* oldName, int newFolder, char const* newName, int flags) noexcept
+{
+    callsBeforeLink = callsBeforeLink.empty() ? calls : callsBeforeLink;
+    return int(::syscall(SYS_linkat, oldFolder, oldName, newFolder, newName, flags));
 }
 
 extern "C" int rename(char const* oldName, char const* newName) noexcept
@@ -144,6 +152,7 @@ protected:
         AtomicFile feed(Path());
         feed.Write("new");
         calls.clear();
+        callsBeforeLink.clear();
         AtomicFile::CommitTogether(files, feed);
     }
 };
@@ -157,6 +166,8 @@ TEST_P(FilesTogether, AreAllOnTheDiskBeforeTheFirstGetsItsNameAndTheFeedIsTheLas
     Publish();
     EXPECT_EQ(calls, (std::vector<std::string>{"sync file", "sync file", "sync file", "rename", "rename", "sync folder",
                                                "rename", "sync folder"}));
+    EXPECT_EQ(callsBeforeLink, (std::vector<std::string>{"sync file", "sync file", "sync file"}))
+        << "a run that is killed while it writes large files leaves none behind";
     EXPECT_EQ(Content(), "new");
     EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"a.delta", "appcast.xml", "b.delta"}));
 }

@@ -97,7 +97,8 @@ protected:
     DeltaReport Make()
     {
         UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
-        return MakeDelta(Old(), "1.0", New(), "1.1", container.Get());
+        auto const progress = [this](std::uint64_t done, std::uint64_t total) { m_progress.emplace_back(done, total); };
+        return MakeDelta(Old(), "1.0", New(), "1.1", container.Get(), progress);
     }
 
     DeltaOutcome Apply(DeltaLimits const& limits = {})
@@ -147,6 +148,8 @@ TEST_F(Delta, SameFoldersMakeTheSameBytes)
 TEST_F(Delta, ProgressEndsAtTheTotal)
 {
     MakeOrFail();
+    EXPECT_FALSE(m_progress.empty());
+    m_progress.clear();
     ASSERT_TRUE(Apply().HasSucceeded());
     ASSERT_FALSE(m_progress.empty());
     EXPECT_EQ(m_progress.back().first, m_progress.back().second);
@@ -296,6 +299,7 @@ TEST_F(Delta, MakerRefusesALinkThatLeavesTheBundle)
     EXPECT_EQ(outcome.error, DeltaError::TreeRefused);
     EXPECT_EQ(outcome.fault, UpdateFault::LinkEscapes);
     EXPECT_EQ(fs::file_size(Container()), 0u);
+    EXPECT_TRUE(m_progress.empty()) << "it searched before";
 }
 
 TEST_F(Delta, MakerNamesAMissingFolder)

@@ -275,6 +275,12 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
     {
         OldVersion const old = ReadOldVersion(oldBundle);
         manifest.entries = ReadNewVersion(newBundle, old);
+        // The search may take hours.
+        report.outcome = OutcomeOf(CheckTree(manifest.entries, DeltaLimits()));
+        if (!report.outcome.HasSucceeded())
+        {
+            return report;
+        }
         data = Maker(newBundle, old, manifest, progress, effort).Make();
     }
     catch (fs::filesystem_error const& error)

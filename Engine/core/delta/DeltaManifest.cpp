@@ -154,7 +154,7 @@ DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits,
                             : DeltaManifestVerdict{DeltaManifestError::TrailingBytes, UpdateFault::None, {}};
 }
 
-DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits)
+DeltaManifestVerdict CheckTree(std::vector<DeltaEntry> const& entries, DeltaLimits const& limits)
 {
     ArchiveEntryRules policy(limits.tree);
     ArchiveEntry root;
@@ -163,20 +163,12 @@ DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimi
     UpdateFault fault = policy.Admit(root).fault;
     std::set<std::string> folders{std::string()};
     std::string const* previous = nullptr;
-    for (DeltaEntry const& entry : manifest.entries)
+    for (DeltaEntry const& entry : entries)
     {
         fault = fault == UpdateFault::None ? Admit(policy, entry) : fault;
         if (fault != UpdateFault::None)
         {
             return {DeltaManifestError::TreeRefused, fault, entry.path};
-        }
-        if (HasSource(entry, manifest.format) && !IsBelow(entry.sourcePath))
-        {
-            return {DeltaManifestError::BadSource, UpdateFault::None, entry.path};
-        }
-        if (!AreStoredSizesSane(entry, limits.tree.maxBytes))
-        {
-            return {DeltaManifestError::TooManyBytes, UpdateFault::None, entry.path};
         }
         // Folders are entries, so nothing is ever created below a link or a file.
         if ((previous && *previous >= entry.path) || folders.count(ParentOf(entry.path)) == 0)
@@ -190,9 +182,25 @@ DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimi
         previous = &entry.path;
     }
     fault = policy.Finish();
-    if (fault != UpdateFault::None)
+    return {fault == UpdateFault::None ? DeltaManifestError::None : DeltaManifestError::TreeRefused, fault, {}};
+}
+
+DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits)
+{
+    if (DeltaManifestVerdict verdict = CheckTree(manifest.entries, limits); verdict.error != DeltaManifestError::None)
     {
-        return {DeltaManifestError::TreeRefused, fault, {}};
+        return verdict;
+    }
+    for (DeltaEntry const& entry : manifest.entries)
+    {
+        if (HasSource(entry, manifest.format) && !IsBelow(entry.sourcePath))
+        {
+            return {DeltaManifestError::BadSource, UpdateFault::None, entry.path};
+        }
+        if (!AreStoredSizesSane(entry, limits.tree.maxBytes))
+        {
+            return {DeltaManifestError::TooManyBytes, UpdateFault::None, entry.path};
+        }
     }
     return manifest.format == DeltaFormat::Joined ? CheckUnits(manifest, limits) : DeltaManifestVerdict();
 }

@@ -141,6 +141,8 @@ ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
 /// Reads all \a bytes, which have the format manifest.format, and applies every rule. Use \a manifest only if the
 /// verdict has no error.
 [[nodiscard]] DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
+/// The rules for the tree of \a entries alone, which may lack all about the container.
+[[nodiscard]] DeltaManifestVerdict CheckTree(std::vector<DeltaEntry> const& entries, DeltaLimits const& limits);
 /// The rules for decoded manifests, applied to a manifest that is being made.
 [[nodiscard]] DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);
 

@@ -109,8 +109,19 @@ void RollBack(int parentFd, std::string const& targetName, UniqueFd const& stagi
               SwapJournal const& journal)
 {
     // The note first: a failed version must not be installed repeatedly by processes that do not know of the failure.
-    Engine::WriteNote(parentFd, Engine::FailedVersionName(targetName),
-                      Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
+    // Without space for the note there is none for another installation.
+    try
+    {
+        Engine::WriteNote(parentFd, Engine::FailedVersionName(targetName),
+                          Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
+    }
+    catch (Engine::UpdateRefusal const& refusal)
+    {
+        if (refusal.Fault() != Engine::UpdateFault::NoSpace)
+        {
+            throw;
+        }
+    }
     SwapBack(parentFd, targetName, staging.Get(), previousName, journal);
 }
 

@@ -6,6 +6,8 @@
 #include "Engine/core/helper/StagingFolder.h"
 
 #include <cerrno>
+#include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -90,6 +92,13 @@ UniqueFd OpenLockFile(int parentFd, std::string const& name)
     throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
 }
 
+/// The journal, which each of its writers replaces; empty if there is none.
+UniqueFd OpenJournal(int parentFd, std::string const& name)
+{
+    UniqueFd file(::openat(parentFd, name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    return file && Engine::IsPrivateFile(file.Get()) ? std::move(file) : UniqueFd();
+}
+
 /// False if the time limit came first.
 [[nodiscard]] bool Lock(UniqueFd const& file)
 {
@@ -107,43 +116,68 @@ UniqueFd OpenLockFile(int parentFd, std::string const& name)
     return false;
 }
 
+/// The locked file \a name, which \a open opens until it is the one that others find; or no file, if there is none to
+/// lock.
+template <typename Open>
+UniqueFd LockNamed(int parentFd, std::string const& name, Open const& open)
+{
+    for (int files = 0; files < MAX_FILES; ++files)
+    {
+        UniqueFd file = open(parentFd, name);
+        if (!file)
+        {
+            return file;
+        }
+        if (!Lock(file))
+        {
+            break;
+        }
+        if (Engine::IsAt(file.Get(), parentFd, name))
+        {
+            return file;
+        }
+    }
+    throw UpdateRefusal(UpdateFault::LockTimedOut, EWOULDBLOCK);
+}
+
 } // namespace
 
+SwapLock::SwapLock(std::string name, int parentFd) : m_parentFd(parentFd), m_name(std::move(name)) {}
+
 SwapLock::SwapLock(int parentFd, std::string const& targetName, long patienceSeconds)
-    : m_parentFd(parentFd), m_name(Engine::LockFileName(targetName))
+    : SwapLock(Engine::LockFileName(targetName), parentFd) // so an exception below removes the file
 {
     if (!Engine::IsSafeUpToTheRoot(parentFd))
     {
         throw UpdateRefusal(UpdateFault::FolderUnsafe);
     }
     AlarmScope const alarm(patienceSeconds);
-    for (int files = 0; files < MAX_FILES; ++files)
+    std::optional<UpdateRefusal> withoutSpace;
+    try
     {
-        m_file = OpenLockFile(parentFd, m_name);
-        if (!Lock(m_file))
-        {
-            break;
-        }
-        if (IsNamed())
-        {
-            return;
-        }
+        m_file = LockNamed(parentFd, m_name, &OpenLockFile);
     }
-    m_file = UniqueFd();
-    throw UpdateRefusal(UpdateFault::LockTimedOut, EWOULDBLOCK);
+    catch (UpdateRefusal const& refusal)
+    {
+        if (refusal.Fault() != UpdateFault::NoSpace)
+        {
+            throw;
+        }
+        withoutSpace = refusal;
+    }
+    m_journal = LockNamed(parentFd, Engine::SwapJournalName(targetName), &OpenJournal);
+    if (withoutSpace && !m_journal)
+    {
+        throw UpdateRefusal(*withoutSpace);
+    }
 }
 
 SwapLock::~SwapLock()
 {
-    if (IsNamed())
+    if (m_file && Engine::IsAt(m_file.Get(), m_parentFd, m_name))
     {
         static_cast<void>(::unlinkat(m_parentFd, m_name.c_str(), 0));
     }
-}
-
-bool SwapLock::IsNamed() const
-{
-    return Engine::IsAt(m_file.Get(), m_parentFd, m_name);
 }
 
 } // namespace Pelnar::Installer

@@ -1,6 +1,7 @@
 // SwapLock.h: keeps all other helpers away from one installed bundle. It is the kernel's lock on a file next to the
 // bundle that only this user may open, so a user who can only read the folder cannot take it. The file is removed with
-// the lock; a file that a killed holder left is reused.
+// the lock; a file that a killed holder left is reused. If there is no space for the file, the lock on the journal
+// counts, if there is one. So every holder has that lock too.
 // Ownership: the caller owns the parent's descriptor, which outlives the object.
 #pragma once
 
@@ -24,11 +25,12 @@ public:
     SwapLock& operator=(SwapLock const&) = delete;
 
 private:
-    [[nodiscard]] bool IsNamed() const;
+    SwapLock(std::string name, int parentFd);
 
     int m_parentFd;
     std::string m_name;
-    Engine::UniqueFd m_file;
+    Engine::UniqueFd m_file;    ///< empty if there is no space for one
+    Engine::UniqueFd m_journal; ///< empty if there is none
 };
 
 } // namespace Pelnar::Installer

@@ -3,6 +3,7 @@
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
+#include "tests/installer/GoodStartScene.h"
 #include "tests/support/Container.h"
 
 #include <gtest/gtest.h>
@@ -245,6 +246,66 @@ INSTANTIATE_TEST_SUITE_P(Table, LockSquatter,
                                                          WriteFile(path + "/file", "x");
                                                      }}),
                          [](testing::TestParamInfo<SquatterRow> const& info) { return info.param.name; });
+
+/// No file can be created: the user's quota or the disk is full.
+HelperStart WithoutNewFiles(int errorNumber)
+{
+    HelperStart start;
+    start.atEveryCall = [errorNumber](CallStop const& stop)
+    {
+        bool const isNewFile = stop.call == SYS_openat && (stop.arguments[2] & O_CREAT) != 0;
+        return isNewFile ? CallVerdict::Fail(errorNumber) : CallVerdict::GoOn();
+    };
+    return start;
+}
+
+TEST(Lock, UpdateIsConfirmedAndItsFolderRemovedWithoutSpaceForAFile)
+{
+    for (int const errorNumber : {EDQUOT, ENOSPC})
+    {
+        SCOPED_TRACE(std::strerror(errorNumber));
+        InstalledScene installed;
+        HelperOutcome const outcome =
+            installed.scene.Recover({APP, "2.0", RecoverPurpose::Confirmation}, WithoutNewFiles(errorNumber));
+        EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+        EXPECT_EQ(installed.scene.Place().Names(), std::vector<std::string>{APP}) << "this makes space";
+    }
+}
+
+TEST(Lock, VersionThatDoesNotStartIsRolledBackWithoutSpaceForAFile)
+{
+    InstalledScene installed;
+    for (std::uint64_t start = 0; start < MAX_UNCONFIRMED_STARTS; ++start)
+    {
+        EXPECT_EQ(installed.Start("2.0"), RecoveryAction::CountedStart);
+    }
+    HelperOutcome const outcome = installed.scene.Recover("2.0", WithoutNewFiles(EDQUOT));
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_EQ(installed.scene.Place().StartedVersion(), "1.0");
+}
+
+TEST(Lock, WithoutSpaceForAFileExcludesOthersToo)
+{
+    InstalledScene installed;
+    UniqueFd const holder(
+        ::open((installed.scene.Place().Path() + '/' + SwapJournalName(APP)).c_str(), O_RDONLY | O_CLOEXEC));
+    ASSERT_EQ(::flock(holder.Get(), LOCK_EX | LOCK_NB), 0);
+    for (bool const isFull : {true, false})
+    {
+        SCOPED_TRACE(isFull ? "full" : "not full");
+        HelperStart start = isFull ? WithoutNewFiles(EDQUOT) : HelperStart();
+        int locks = 0;
+        start.atEveryCall = [&locks, isFull, before = start.atEveryCall](CallStop const& stop)
+        {
+            locks += stop.call == SYS_flock ? 1 : 0;
+            // The helper would wait here for the holder.
+            bool const isOfJournal = stop.call == SYS_flock && locks == (isFull ? 1 : 2);
+            return isOfJournal ? CallVerdict::Fail(ENOLCK) : before ? before(stop) : CallVerdict::GoOn();
+        };
+        EXPECT_EQ(installed.scene.Recover("2.0", start).Fault(), UpdateFault::LocksUnavailable);
+        EXPECT_FALSE(std::filesystem::exists(installed.scene.Place().Path() + '/' + LockFileName(APP)));
+    }
+}
 
 /// A second name of the file does not let others open it. It stays the same lock for all who wait.
 TEST(Lock, FileWithASecondNameIsTheSameLock)

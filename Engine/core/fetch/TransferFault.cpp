@@ -14,6 +14,7 @@ namespace
 constexpr long STATUS_TUNNEL = 200;
 constexpr long STATUS_NO_TUNNEL = 300;
 constexpr long STATUS_PROXY_ASKS = 407;
+constexpr long STATUS_NETWORK_SIGN_IN = 511;
 
 template <typename Number>
 struct Rule
@@ -60,6 +61,9 @@ constexpr std::array CODE_RULES = {
     CodeRule{CURLE_GOT_NOTHING, ErrorCause::IncompleteHead},
 };
 
+/// How OpenSSL says that the answer is not TLS, but maybe a web page of the network.
+constexpr char NOT_TLS[] = "wrong version number";
+
 /// How libcurl and OpenSSL say that the connection ended in the middle of a handshake.
 constexpr std::array BROKEN_HANDSHAKES = {"SSL_ERROR_SYSCALL", "unexpected eof", "Recv failure", "Send failure"};
 
@@ -90,9 +94,13 @@ ErrorCause CauseOfProxy(long error)
                            : ErrorCause::ProxyFailed;
 }
 
-/// libcurl has one code for a handshake that was refused and one that broke. Only the text distinguishes them.
+/// libcurl has one code for all of these. Only the text distinguishes them.
 ErrorCause CauseOfHandshake(TransferEnd const& end)
 {
+    if (end.text.contains(QLatin1String(NOT_TLS)))
+    {
+        return ErrorCause::MalformedHead;
+    }
     bool const isBroken = std::any_of(BROKEN_HANDSHAKES.begin(), BROKEN_HANDSHAKES.end(),
                                       [&end](char const* text) { return end.text.contains(QLatin1String(text)); });
     return isBroken ? ErrorCause::IncompleteHead : ErrorCause::HandshakeRefused;
@@ -119,7 +127,9 @@ ErrorCause CauseOf(TransferEnd const& end)
 {
     if (end.stage == TransferStage::Connecting && end.proxyStatus >= STATUS_NO_TUNNEL)
     {
-        return end.proxyStatus == STATUS_PROXY_ASKS ? ErrorCause::ProxyAsksForPassword : ErrorCause::ProxyRefused;
+        return end.proxyStatus == STATUS_PROXY_ASKS        ? ErrorCause::ProxyAsksForPassword
+               : end.proxyStatus == STATUS_NETWORK_SIGN_IN ? ErrorCause::NetworkSignIn
+                                                           : ErrorCause::ProxyRefused;
     }
     if (end.code == CURLE_PROXY)
     {

@@ -1,6 +1,6 @@
 // StartHost.cpp: a small host application: one start, with one check or none, whose events it prints in a line.
 // Usage: run FEED background|interactive|unchecked [confirm] [listen]
-// With "listen" it stays until it hears a third event; without a check, a first one.
+// With "listen" it stays until it hears that an installation failed.
 
 #include "Foundation/IsolatedUserDefaults.h"
 #include "tests/engine/ScriptedDelegate.h"
@@ -13,8 +13,11 @@
 #include <QCoreApplication>
 #include <QUrl>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 int main(int argc, char** argv)
 {
@@ -47,7 +50,13 @@ int main(int argc, char** argv)
     bool hasEnded = isUnchecked || driver.WaitForEnd();
     if (arguments.contains(QStringLiteral("listen")))
     {
-        hasEnded = hasEnded && WaitFor([&] { return driver.Events().size() > (isUnchecked ? 0 : 2); });
+        auto const isInstallation = [](std::string const& event) { return event.rfind("aborted 40", 0) == 0; };
+        auto const hasHeard = [&]
+        {
+            std::vector<std::string> const events = driver.Events();
+            return std::any_of(events.begin(), events.end(), isInstallation);
+        };
+        hasEnded = hasEnded && WaitFor(hasHeard);
     }
     for (std::string const& event : driver.Events())
     {

@@ -2,6 +2,7 @@
 #include "tests/update/InstallMemoryFixture.h"
 
 #include <sys/file.h>
+#include <sys/stat.h>
 
 namespace Pelnar::Testing
 {
@@ -43,6 +44,17 @@ TEST_F(InstallMemoryTest, FailureWaitsForTheNextStartWhileAnotherCopyTells)
         EXPECT_TRUE(Start("1.0"));
         EXPECT_FALSE(m_isNews);
     }
+    EXPECT_TRUE(Start("1.0"));
+    EXPECT_TRUE(m_isNews);
+}
+
+/// Another user can hold the lock on a folder that they can read.
+TEST_F(InstallMemoryTest, FailureIsToldAtOnceIfOthersCanLockTheFolder)
+{
+    Attempt(InstallWish::Automatic, InstallState::Failed);
+    UniqueFd const other = Records();
+    ASSERT_EQ(::fchmod(other.Get(), 0755), 0);
+    ASSERT_EQ(::flock(other.Get(), LOCK_EX), 0);
     EXPECT_TRUE(Start("1.0"));
     EXPECT_TRUE(m_isNews);
 }

@@ -28,6 +28,8 @@ namespace Pelnar::Engine
 namespace
 {
 
+constexpr mode_t OTHERS_CAN_LOCK = 0077;
+
 QDateTime TimeOf(InstallRecord const& record)
 {
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(record.secondsSinceEpoch), Qt::UTC);
@@ -262,7 +264,9 @@ std::shared_ptr<UniqueFd> InstallMemory::Lock()
         return held;
     }
     auto folder = std::make_shared<UniqueFd>(OpenPrivateFolder(PathBytes(m_folder)));
-    bool const isTaken = *folder && ::flock(folder->Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    struct stat status;
+    bool const isOwnAlone = ::fstat(folder->Get(), &status) == 0 && (status.st_mode & OTHERS_CAN_LOCK) == 0;
+    bool const isTaken = isOwnAlone && ::flock(folder->Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     m_lock = folder;
     return isTaken ? nullptr : folder;
 }

@@ -52,8 +52,8 @@ private:
     void TakeStray(int folderFd, std::string const& bundlePath, std::string const& version);
     void Settle(InstallRecord record, PastInstallation meaning);
     std::string RollbackName() const;
-    /// The folder of the records, for one process at a time; null while another process has it. Without locks on the
-    /// file system, each process gets it.
+    /// The folder of the records, for one process at a time; null while another process has it. Each process gets
+    /// it if the file system has no locks, or if other users could hold them.
     std::shared_ptr<UniqueFd> Lock();
     void Forget();
     /// Empty \a bytes remove the record. \a locked is released then.

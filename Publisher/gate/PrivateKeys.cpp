@@ -31,6 +31,10 @@ QString const MEND_OF_PUBLISHED =
     u"if the key was published before, make a new key as docs/guide/keys.md says for a stolen one"_s;
 /// A larger file is no file with a key.
 constexpr off_t MOST_FILE_BYTES = 64 * 1024;
+/// A file with a key that is written in several lines is smaller.
+constexpr std::size_t MOST_LINES_BYTES = 4 * 1024;
+/// The texts of a file that are tried as keys: a file of data may have thousands that are long enough.
+constexpr int MOST_TRIES = 256;
 
 using KeyBytes = std::vector<std::uint8_t>;
 
@@ -87,8 +91,7 @@ std::vector<KeyBytes> MarkedKeys(std::string const& text)
     return keys;
 }
 
-/// \a text without what separates the bytes of a key that is written in several
-/// lines.
+/// \a text without what separates the bytes of a key that is written in several lines.
 std::string WithoutSeparators(std::string text)
 {
     auto const isSeparator = [](char character)
@@ -111,13 +114,13 @@ public:
     {
         KeyBytes const raw(content.begin(), content.begin() + std::ptrdiff_t(std::min(content.size(), SECRET_BYTES)));
         std::vector<KeyBytes> const marked = MarkedKeys(content);
-        return IsKey(raw) || HasKeyText(content) || HasKeyText(WithoutSeparators(content)) ||
+        return IsKey(raw) || HasKeyText(content) ||
+               (content.size() <= MOST_LINES_BYTES && HasKeyText(WithoutSeparators(content))) ||
                std::any_of(marked.begin(), marked.end(), [this](KeyBytes const& bytes) { return HoldsKnown(bytes); });
     }
 
 private:
-    /// True if a public key that is known, or that follows the seed, belongs to
-    /// the seed.
+    /// True if a public key that is known, or that follows the seed, belongs to the seed.
     bool IsKey(KeyBytes const& bytes) const
     {
         if (bytes.size() < SEED_BYTES)
@@ -140,13 +143,15 @@ private:
 
     bool HasKeyText(std::string_view text, KeyAlphabet const& alphabet) const
     {
-        for (auto begin = text.begin(); begin != text.end();)
+        int tries = 0;
+        for (auto begin = text.begin(); begin != text.end() && tries < MOST_TRIES;)
         {
             auto const end = std::find_if_not(begin, text.end(), alphabet.isInside);
             for (std::size_t const length : alphabet.lengths)
             {
                 // Something else may precede the key without a blank.
                 bool const isLongEnough = std::size_t(end - begin) >= length;
+                tries += isLongEnough ? 1 : 0;
                 if (isLongEnough && IsKey(alphabet.decode({&*(end - std::ptrdiff_t(length)), length})))
                 {
                     return true;
@@ -157,8 +162,8 @@ private:
         return false;
     }
 
-    /// True if a marked private key has a known public key in it: it may be
-    /// encrypted. Otherwise it is the key of something else, such as a server.
+    /// True if a marked private key has a known public key in it: it may be encrypted. Otherwise it is the key of
+    /// something else, such as a server.
     bool HoldsKnown(KeyBytes const& bytes) const
     {
         for (std::size_t at = 0; at + SEED_BYTES <= bytes.size(); ++at)

@@ -9,6 +9,7 @@
 //   cd=FOLDER      changes the working directory
 //   move=FROM:TO   renames a file
 //   memory=BYTES   from now on the process gets at most so many more
+//   scarce=NUMBER  the request for memory with this number, from 0, in other threads than the main one is refused
 //   main           whether Foundation takes this thread for the main one
 // Built with PELNAR_OPENED_HOST it is a library of this; with PELNAR_PLAIN_HOST it is the same program without the
 // update checker, and knows the first word only.
@@ -24,6 +25,7 @@
 #include "HostFramework/Reference/ReferenceLinksManager.h"
 #include "HostFramework/Reference/ReferenceNagScreenManager.h"
 #include "HostFramework/VersionText.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <Pelnar/FeedAge.h>
 #include <Pelnar/GoodStart.h>
@@ -38,6 +40,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <optional>
 #include <set>
 #include <string>
 #ifndef PELNAR_PLAIN_HOST
@@ -148,6 +151,7 @@ public:
 
     App::ReferenceApplication application;
     QString feed;
+    std::optional<Testing::ScarceMemory> memory;
     Printer printer;
 };
 
@@ -194,6 +198,10 @@ void Obey(Host& host, QString const& word)
         rlim_t const most = pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) + value.toULongLong();
         rlimit const limit{most, most};
         std::printf("memory %d\n", ::setrlimit(RLIMIT_AS, &limit));
+    }
+    else if (word.startsWith(QLatin1String("scarce=")))
+    {
+        host.memory.emplace(Testing::ScarceIn::OtherThreads, value.toLong(), 1);
     }
     else if (word.startsWith(QLatin1String("cd=")))
     {

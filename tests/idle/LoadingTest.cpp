@@ -230,6 +230,18 @@ TEST(ScarceMemory, FailsTheCheck)
 }
 #endif
 
+/// Wherever the thread that loads the session finds no memory, also for its answer.
+TEST(ScarceMemory, LeavesNoCheckWithoutAnAnswer)
+{
+    constexpr int REQUESTS = 24;
+    LibraryPlace const place; // without a session
+    for (int request = 0; request < REQUESTS; ++request)
+    {
+        QStringList const lines = place.Run({QStringLiteral("scarce=%1").arg(request), QStringLiteral("check")});
+        EXPECT_EQ(lines.count(QStringLiteral("ended")), 1) << request << qPrintable(lines.join(QLatin1Char('\n')));
+    }
+}
+
 TEST(Session, IsLookedForBesideTheUpdateCheckerOnly)
 {
     LibraryPlace const checkers; // without a session

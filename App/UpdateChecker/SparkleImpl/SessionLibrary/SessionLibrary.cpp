@@ -10,10 +10,12 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <chrono>
 #include <climits>
 #include <cstring>
 #include <exception>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include <dlfcn.h>
@@ -24,6 +26,10 @@ namespace
 {
 
 Core::LogFile const LOG_FILE("App/UpdateChecker/SparkleImpl/SessionLibrary");
+/// A check waits for an answer, so its thread tries for five seconds to give one, even if memory is short.
+constexpr int MOST_TRIES = 50;
+constexpr std::chrono::milliseconds BETWEEN_TRIES{100};
+
 Core::LogSite const NOT_LOADED{Core::LogSeverity::Error, LOG_FILE, 41, ""};
 
 std::string LastLoaderError()
@@ -101,8 +107,7 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
                                    [this]
                                    {
                                        Answer answer = Open();
-                                       QMetaObject::invokeMethod(
-                                           &m_receiver, [this] { TellWaiters(); }, Qt::QueuedConnection);
+                                       CallTellWaiters();
                                        return answer;
                                    });
         }
@@ -113,6 +118,23 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
         }
     }
     m_waiters.push_back({&context, use});
+}
+
+void SessionLibrary::CallTellWaiters() noexcept
+{
+    for (int triesLeft = MOST_TRIES; triesLeft > 0; --triesLeft)
+    {
+        try
+        {
+            QMetaObject::invokeMethod(
+                &m_receiver, [this] { TellWaiters(); }, Qt::QueuedConnection);
+            return;
+        }
+        catch (std::exception const&) // out of memory
+        {
+            std::this_thread::sleep_for(BETWEEN_TRIES);
+        }
+    }
 }
 
 SessionLibrary::Answer SessionLibrary::Open() noexcept

@@ -55,6 +55,8 @@ private:
     void Take(Answer const& answer);
     void TakeLoading();
     void TellWaiters();
+    /// Called by the thread that loads the library.
+    void CallTellWaiters() noexcept;
 
     SessionExport const* m_loaded = nullptr;
     std::vector<Waiter> m_waiters;

@@ -302,6 +302,16 @@ TEST_F(Delta, MakerRefusesALinkThatLeavesTheBundle)
     EXPECT_TRUE(m_progress.empty()) << "it searched before";
 }
 
+TEST_F(Delta, MakerNamesAFileThatShrinksWhileItIsCompared)
+{
+    UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+    auto const progress = [this](std::uint64_t, std::uint64_t) { fs::resize_file(New() / "Program", 10); };
+    DeltaReport const report = MakeDelta(Old(), "1.0", New(), "1.1", container.Get(), progress);
+    EXPECT_EQ(report.outcome.error, DeltaError::CannotRead);
+    EXPECT_EQ(report.outcome.path, (New() / "Program").string());
+    EXPECT_EQ(fs::file_size(Container()), 0u);
+}
+
 TEST_F(Delta, MakerNamesAMissingFolder)
 {
     fs::remove_all(Old());

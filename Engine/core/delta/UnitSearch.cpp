@@ -9,6 +9,7 @@
 #include <deque>
 #include <map>
 #include <new>
+#include <system_error>
 
 namespace Pelnar::Engine
 {
@@ -117,6 +118,12 @@ public:
         Piece& piece = m_pieces[number];
         OpenedFile const file(m_newFolder / m_entries[m_unit.targets[piece.target]].path);
         Bytes const text = m_changed.empty() ? file.Content() : View(m_changed);
+        if (text.size() < piece.begin + piece.size)
+        {
+            throw std::filesystem::filesystem_error("has changed",
+                                                    m_newFolder / m_entries[m_unit.targets[piece.target]].path,
+                                                    std::make_error_code(std::errc::io_error));
+        }
         piece.end = piece.start;
         piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
     }

@@ -255,6 +255,21 @@ TEST(PackedText, CorrectionsTakeFewBytesOrAreNotMade)
     }
 }
 
+TEST(PackedText, CorrectionsThatGoOnBehindTheirRunAreRefused)
+{
+    std::string const before = WordsOf(3, 60000);
+    std::string const after = before.substr(0, 20000) + "changed" + before.substr(20007);
+    PackedBase const base{UnpackText(View(GzipOf(before))).value(), {{20000, 7, 14}, {before.size() - 20007, 0, 0}}};
+    std::size_t refused = 0;
+    for (std::uint64_t copied = 1000; copied < 20000; copied += 500)
+    {
+        SCOPED_TRACE(copied);
+        // No corrections. The first run ends after so many copied tokens, the second one at once.
+        EXPECT_NO_THROW(refused += CorrectedTokens(base, View(after), {9, 8}, {0, copied, 0, 0}) ? 0 : 1);
+    }
+    EXPECT_GT(refused, 0u);
+}
+
 TEST(PackedText, TokensOfAnotherPackerAreNotCopied)
 {
     TwoTexts const texts;

@@ -173,6 +173,10 @@ private:
         std::size_t const count = m_repetitions.size();
         std::size_t const made = m_made;
         std::size_t const last = first + meetingBytes;
+        if (made > last)
+        {
+            return false; // corrections may go on behind their run
+        }
         ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_parameters);
         TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < last && tokens.Next(token);)

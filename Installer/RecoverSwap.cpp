@@ -109,7 +109,7 @@ void RollBack(int parentFd, std::string const& targetName, UniqueFd const& stagi
               SwapJournal const& journal)
 {
     // The note first: a failed version must not be installed repeatedly by processes that do not know of the failure.
-    // Without space for the note there is none for another installation.
+    // If the disk has no space for the note, another installation would not have space either.
     try
     {
         Engine::WriteNote(parentFd, Engine::FailedVersionName(targetName),

@@ -92,7 +92,7 @@ UniqueFd OpenLockFile(int parentFd, std::string const& name)
     throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
 }
 
-/// The journal, which each of its writers replaces; empty if there is none.
+/// The journal, which each of its writers replaces; no file if it is missing.
 UniqueFd OpenJournal(int parentFd, std::string const& name)
 {
     UniqueFd file(::openat(parentFd, name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -116,8 +116,7 @@ UniqueFd OpenJournal(int parentFd, std::string const& name)
     return false;
 }
 
-/// The locked file \a name, which \a open opens until it is the one that others find; or no file, if there is none to
-/// lock.
+/// The locked file \a name. \a open opens it again until others find the same file. No file if it is missing.
 template <typename Open>
 UniqueFd LockNamed(int parentFd, std::string const& name, Open const& open)
 {

@@ -30,7 +30,7 @@ private:
     int m_parentFd;
     std::string m_name;
     Engine::UniqueFd m_file;    ///< empty if there is no space for one
-    Engine::UniqueFd m_journal; ///< empty if there is none
+    Engine::UniqueFd m_journal; ///< no file if the journal is missing
 };
 
 } // namespace Pelnar::Installer

@@ -171,6 +171,22 @@ TEST(ProgramDelta, EveryTruncationIsNoProgramOrReadWithinIts)
     }
 }
 
+/// The run that has been started, taken with room for 1 to \a mostRoom bytes at a time.
+ByteBuffer RunOf(IOldText& text, std::size_t mostRoom, std::mt19937& random)
+{
+    ByteBuffer run;
+    for (bool isGoing = true; isGoing;)
+    {
+        // Of its own size, so that a byte behind it is noticed.
+        ByteBuffer room(1 + random() % mostRoom);
+        Bytes const piece = text.Next(room.data(), room.size());
+        EXPECT_TRUE(piece.data() != room.data() || piece.size() <= room.size());
+        run.insert(run.end(), piece.begin(), piece.end());
+        isGoing = !piece.empty();
+    }
+    return run;
+}
+
 TEST(ProgramDelta, HeadersOfNonsenseAreReadWithinTheFile)
 {
     std::mt19937 random(5);
@@ -196,12 +212,7 @@ TEST(ProgramDelta, HeadersOfNonsenseAreReadWithinTheFile)
         std::vector<PatchStep> const steps{{changed.size(), 0, 0}};
         ProgramText text(View(changed), *layout, layout->spans, steps);
         text.Start(0, 0, changed.size());
-        std::size_t made = 0;
-        for (Bytes piece = text.Next(); !piece.empty(); piece = text.Next())
-        {
-            made += piece.size();
-        }
-        EXPECT_EQ(made, changed.size());
+        EXPECT_EQ(RunOf(text, PATCH_PIECE_BYTES, random).size(), changed.size());
     }
     EXPECT_GT(programs, 300u) << "most are refused before anything is looked at";
 }
@@ -280,12 +291,8 @@ TEST(ProgramDelta, FieldsThatMoveWithTheirTargetsMayBeLeftOut)
             std::size_t const begin = random() % program.size();
             std::size_t const size = 1 + random() % (program.size() - begin);
             std::size_t const newBegin = run == 0 ? begin : random() % 2 * 8 + begin;
-            ByteBuffer made;
             text.Start(begin, newBegin, size);
-            for (Bytes piece = text.Next(); !piece.empty(); piece = text.Next())
-            {
-                made.insert(made.end(), piece.begin(), piece.end());
-            }
+            ByteBuffer const made = RunOf(text, run % 2 == 0 ? PATCH_PIECE_BYTES : 12, random);
             ByteBuffer const plain = PlainlyMoved(View(program), spans, steps, begin, newBegin, size);
             ASSERT_EQ(made, plain);
             changedRuns += View(made) != View(program).substr(begin, size);

@@ -26,6 +26,7 @@ namespace fs = std::filesystem;
 /// The number of old bytes that differ from the new bytes that the steps make of them.
 std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes)
 {
+    ByteBuffer room(PATCH_PIECE_BYTES);
     std::uint64_t changed = 0;
     std::uint64_t position = 0;
     std::size_t made = 0;
@@ -38,7 +39,7 @@ std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& ste
         }
         while (left > 0)
         {
-            Bytes const piece = old.Next();
+            Bytes const piece = old.Next(room.data(), room.size());
             changed += std::inner_product(piece.begin(), piece.end(), newBytes.begin() + made, std::uint64_t(0),
                                           std::plus<>(), std::not_equal_to<>());
             made += piece.size();

@@ -39,7 +39,7 @@ void PlainText::Start(std::uint64_t position, std::uint64_t, std::uint64_t size)
     m_left = size;
 }
 
-Bytes PlainText::Next()
+Bytes PlainText::Next(std::uint8_t*, std::size_t)
 {
     if (m_left == 0)
     {
@@ -91,36 +91,45 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
     m_hasField = m_scanner->Next(m_field);
 }
 
-Bytes ProgramText::Next()
+Bytes ProgramText::Next(std::uint8_t* target, std::size_t room)
 {
-    std::uint64_t const begin = m_position;
     // Bytes far before the next field need no copy.
-    std::uint64_t const plain = m_hasField ? m_field.position - begin : m_left;
-    m_isPlain = plain == m_left || plain >= LEAST_PLAIN_BYTES;
-    std::uint64_t end = begin + (m_isPlain ? std::min<std::uint64_t>(plain, RESIDENT_PART_BYTES)
-                                           : std::min<std::uint64_t>(m_left, m_piece.size()));
-    m_pages.Touch(0, static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
-    if (m_isPlain)
+    std::uint64_t const plain = m_hasField ? m_field.position - m_position : m_left;
+    if (plain == m_left || plain >= LEAST_PLAIN_BYTES)
     {
-        m_left -= end - begin;
-        m_position = end;
-        return m_program.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
+        return Take(std::min<std::uint64_t>(plain, RESIDENT_PART_BYTES));
     }
-    std::copy_n(m_program.data() + begin, end - begin, m_piece.data());
-    while (m_hasField && m_field.position < end)
+    if (plain == 0 && m_field.Width() > room)
     {
-        // A field that crosses the end of the piece belongs to the next piece.
-        if (m_field.position + m_field.Width() > end)
+        room = m_field.Width();
+        target = m_alone.data();
+    }
+    Bytes const old = Take(std::min<std::uint64_t>(m_left, room));
+    std::copy_n(old.data(), old.size(), target);
+    std::uint64_t const begin = m_position - old.size();
+    while (m_hasField && m_field.position < m_position)
+    {
+        if (m_field.position + m_field.Width() > m_position)
         {
-            end = m_field.position;
+            // The field is the next piece's.
+            m_left += m_position - m_field.position;
+            m_position = m_field.position;
             break;
         }
-        Change(m_field, m_piece.data() + (m_field.position - begin));
+        Change(m_field, target + (m_field.position - begin));
         m_hasField = m_scanner->Next(m_field);
     }
-    m_left -= end - begin;
-    m_position = end;
-    return {m_piece.data(), static_cast<std::size_t>(end - begin)};
+    return {target, static_cast<std::size_t>(m_position - begin)};
+}
+
+/// Moves to behind the next \a size bytes, and returns them.
+Bytes ProgramText::Take(std::uint64_t size)
+{
+    Bytes const bytes = m_program.substr(static_cast<std::size_t>(m_position), static_cast<std::size_t>(size));
+    m_pages.Touch(0, static_cast<std::size_t>(m_position), bytes.size());
+    m_position += size;
+    m_left -= size;
+    return bytes;
 }
 
 void ProgramText::Change(AddressField const& field, std::uint8_t* bytes)

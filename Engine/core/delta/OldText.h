@@ -22,10 +22,10 @@ public:
     /// From now on Next() returns the \a size bytes from \a position on. In the new file they begin at \a newPosition.
     /// REQUIRES: a run within the text.
     virtual void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) = 0;
-    /// The next piece of the run; empty only at its end. It is valid until the next call.
-    virtual Bytes Next() = 0;
-    /// True if the last piece stays valid as long as the files' bytes.
-    virtual bool IsLasting() const = 0;
+    /// The next piece of the run; empty only at its end. Either it is copied to \a target, which has room for \a room
+    /// bytes, at least one, or it is elsewhere. There, a piece of PATCH_PIECE_BYTES or more stays valid as long as the
+    /// files, and a smaller one until the next call.
+    virtual Bytes Next(std::uint8_t* target, std::size_t room) = 0;
 };
 
 /// Files, one after the other, unchanged.
@@ -36,8 +36,7 @@ public:
 
     std::uint64_t Size() const override { return m_ends.empty() ? 0 : m_ends.back(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
-    Bytes Next() override;
-    bool IsLasting() const override { return true; }
+    Bytes Next(std::uint8_t* target, std::size_t room) override;
 
 private:
     std::vector<Bytes> m_files;
@@ -59,10 +58,10 @@ public:
 
     std::uint64_t Size() const override { return m_program.size(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
-    Bytes Next() override;
-    bool IsLasting() const override { return m_isPlain; }
+    Bytes Next(std::uint8_t* target, std::size_t room) override;
 
 private:
+    Bytes Take(std::uint64_t size);
     void Change(AddressField const& field, std::uint8_t* bytes);
 
     Bytes m_program;
@@ -75,12 +74,11 @@ private:
     bool m_areSpansSeparate;
     AddressField m_field; ///< the next one
     bool m_hasField = false;
-    bool m_isPlain = false; ///< the last piece has no field
     std::uint64_t m_position = 0;
     std::uint64_t m_left = 0;
-    std::uint64_t m_shift = 0; ///< the new position minus the old one, modulo 2^64
-    ImageSpan m_newSpan;       ///< the one with the last field
-    std::array<std::uint8_t, 16 * 1024> m_piece;
+    std::uint64_t m_shift = 0;           ///< the new position minus the old one, modulo 2^64
+    ImageSpan m_newSpan;                 ///< the one with the last field
+    std::array<std::uint8_t, 8> m_alone; ///< the bytes of a field that has no room
 };
 
 } // namespace Pelnar::Engine

@@ -9,21 +9,14 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Copies \a count bytes of \a room that may be read and written: most runs are short.
-void CopyShort(std::uint8_t const* bytes, std::size_t count, std::size_t room, std::uint8_t* target)
-{
-    constexpr std::size_t SHORT_BYTES = 16;
-    count <= SHORT_BYTES&& room >= SHORT_BYTES ? std::copy_n(bytes, SHORT_BYTES, target)
-                                               : std::copy_n(bytes, count, target);
-}
-
 /// The compiler's loop for many bytes would take longer to start than most runs take.
-void AddBytes(std::uint8_t const* a, std::uint8_t const* b, std::size_t count, std::uint8_t* target)
+void AddBytes(Bytes difference, std::uint8_t* target)
 {
 #pragma clang loop vectorize(disable)
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::uint8_t const byte : difference)
     {
-        target[i] = static_cast<std::uint8_t>(a[i] + b[i]);
+        *target = static_cast<std::uint8_t>(*target + byte);
+        ++target;
     }
 }
 
@@ -33,15 +26,13 @@ bool PatchStreamReader::Take(std::uint8_t* target, std::size_t size)
 {
     while (size > 0)
     {
-        if (m_position == m_end && !Refill())
+        Bytes const some = TakeSome(size);
+        if (some.empty())
         {
             return false;
         }
-        std::size_t const count = std::min(size, m_end - m_position);
-        std::copy_n(m_ahead.data() + m_position, count, target);
-        m_position += count;
-        target += count;
-        size -= count;
+        target = std::copy_n(some.data(), some.size(), target);
+        size -= some.size();
     }
     return true;
 }
@@ -224,20 +215,17 @@ PatchVerdict PatchApplier::Make(IOldText& old, std::uint64_t newSize, ByteSink c
     return Flush() ? PatchVerdict::Applied : PatchVerdict::SinkRefused;
 }
 
-/// Takes the next run. A run may continue from one step to the next.
+/// Takes runs until one has bytes left. A run may continue from one step to the next.
 PatchVerdict PatchApplier::TakeRun()
 {
     PatchVerdict verdict = PatchVerdict::Applied;
-    if (!m_isChangedNext)
+    while (m_sameLeft == 0 && m_changedLeft == 0 && verdict == PatchVerdict::Applied)
     {
-        verdict = m_same.TakeNumber(m_sameLeft);
+        verdict = m_isChangedNext ? m_changed.TakeNumber(m_changedLeft) : m_same.TakeNumber(m_sameLeft);
+        bool const isEmpty = m_isChangedNext && verdict == PatchVerdict::Applied && m_changedLeft == 0;
+        verdict = isEmpty ? PatchVerdict::BadNumber : verdict;
+        m_isChangedNext = !m_isChangedNext;
     }
-    else
-    {
-        verdict = m_changed.TakeNumber(m_changedLeft);
-        verdict = verdict == PatchVerdict::Applied && m_changedLeft == 0 ? PatchVerdict::BadNumber : verdict;
-    }
-    m_isChangedNext = !m_isChangedNext;
     return verdict;
 }
 
@@ -247,69 +235,68 @@ PatchVerdict PatchApplier::TakeLike(IOldText& old, std::uint64_t newPosition, st
     {
         old.Start(m_position, newPosition, size);
     }
-    while (size > 0)
+    PatchVerdict verdict = PatchVerdict::Applied;
+    while (size > 0 && verdict == PatchVerdict::Applied)
     {
-        Bytes const piece = old.Next();
-        if (PatchVerdict const verdict = TakeLike(piece, old.IsLasting()); verdict != PatchVerdict::Applied)
+        std::uint8_t* const target = m_pieces[m_current].data() + m_filled;
+        Bytes const piece = old.Next(target, PATCH_PIECE_BYTES - m_filled);
+        verdict = piece.data() == target ? TakeCopied(piece.size()) : TakePlain(piece);
+        size -= piece.size();
+    }
+    return verdict;
+}
+
+/// Takes bytes of the old file that are not copied yet. Whole pieces that do not change need no copy.
+PatchVerdict PatchApplier::TakePlain(Bytes old)
+{
+    PatchVerdict verdict = PatchVerdict::Applied;
+    while (!old.empty() && verdict == PatchVerdict::Applied)
+    {
+        verdict = TakeRun();
+        std::size_t count = PATCH_PIECE_BYTES;
+        if (m_sameLeft >= count && old.size() >= count)
+        {
+            m_sameLeft -= count;
+            verdict = Flush() && (*m_sink)(old.substr(0, count)) ? verdict : PatchVerdict::SinkRefused;
+        }
+        else if (verdict == PatchVerdict::Applied)
+        {
+            count = FittingBytes(old.size());
+            std::copy_n(old.data(), count, m_pieces[m_current].data() + m_filled);
+            verdict = TakeCopied(count);
+        }
+        old.remove_prefix(std::min(count, old.size()));
+    }
+    return verdict;
+}
+
+/// Takes \a count old bytes that are behind the filled part of the current piece: adds the differences.
+PatchVerdict PatchApplier::TakeCopied(std::size_t count)
+{
+    std::uint8_t* next = m_pieces[m_current].data() + m_filled;
+    std::uint8_t* const end = next + count;
+    while (next < end)
+    {
+        if (PatchVerdict const verdict = TakeRun(); verdict != PatchVerdict::Applied)
         {
             return verdict;
         }
-        size -= piece.size();
-    }
-    return PatchVerdict::Applied;
-}
-
-/// \a isLasting: the bytes stay valid, so that whole pieces of them need no copy.
-PatchVerdict PatchApplier::TakeLike(Bytes old, bool isLasting)
-{
-    while (!old.empty())
-    {
-        if (m_sameLeft == 0 && m_changedLeft == 0)
-        {
-            if (PatchVerdict const verdict = TakeRun(); verdict != PatchVerdict::Applied)
-            {
-                return verdict;
-            }
-            continue;
-        }
-        if (isLasting && m_sameLeft >= PATCH_PIECE_BYTES && old.size() >= PATCH_PIECE_BYTES)
-        {
-            if (!Flush() || !(*m_sink)(old.substr(0, PATCH_PIECE_BYTES)))
-            {
-                return PatchVerdict::SinkRefused;
-            }
-            m_sameLeft -= PATCH_PIECE_BYTES;
-            old.remove_prefix(PATCH_PIECE_BYTES);
-            continue;
-        }
         std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
-        std::size_t const count = FittingBytes(std::min<std::uint64_t>(old.size(), left));
-        std::uint8_t* const target = m_pieces[m_current].data() + m_filled;
-        if (&left == &m_sameLeft)
+        auto size = static_cast<std::size_t>(std::min<std::uint64_t>(left, static_cast<std::size_t>(end - next)));
+        if (&left == &m_changedLeft)
         {
-            std::size_t const room = std::min(old.size(), PATCH_PIECE_BYTES - m_filled);
-            CopyShort(old.data(), count, room, target);
+            Bytes const difference = m_difference.TakeSome(size);
+            if (difference.empty())
+            {
+                return PatchVerdict::SourceEnded;
+            }
+            AddBytes(difference, next);
+            size = difference.size();
         }
-        else if (std::uint8_t const* const difference = m_difference.TakeAhead(count))
-        {
-            AddBytes(old.data(), difference, count, target);
-        }
-        else if (m_difference.Take(target, count))
-        {
-            AddBytes(old.data(), target, count, target);
-        }
-        else
-        {
-            return PatchVerdict::SourceEnded;
-        }
-        left -= count;
-        old.remove_prefix(count);
-        if (!Advance(count))
-        {
-            return PatchVerdict::SinkRefused;
-        }
+        left -= size;
+        next += size;
     }
-    return PatchVerdict::Applied;
+    return Advance(count) ? PatchVerdict::Applied : PatchVerdict::SinkRefused;
 }
 
 PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)

@@ -4,6 +4,7 @@
 
 #include "Engine/core/delta/OldText.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -28,12 +29,12 @@ public:
         number = m_ahead[m_position++];
         return PatchVerdict::Applied;
     }
-    /// The next bytes, valid until the next call; null, and nothing is taken, if they are not read ahead.
-    std::uint8_t const* TakeAhead(std::size_t size)
+    /// The next bytes, at most \a most, valid until the next call; empty only at the stream's end.
+    Bytes TakeSome(std::size_t most)
     {
-        bool const isAhead = size <= m_end - m_position;
-        m_position += isAhead ? size : 0;
-        return isAhead ? m_ahead.data() + m_position - size : nullptr;
+        std::size_t const count = m_position == m_end && !Refill() ? 0 : std::min(most, m_end - m_position);
+        m_position += count;
+        return {m_ahead.data() + m_position - count, count};
     }
     bool IsAtEnd() { return m_position == m_end && !Refill(); }
 
@@ -87,7 +88,8 @@ private:
     PatchVerdict Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink, TakeNextStep const& takeNextStep);
     PatchVerdict TakeRun();
     PatchVerdict TakeLike(IOldText& old, std::uint64_t newPosition, std::uint64_t size);
-    PatchVerdict TakeLike(Bytes old, bool isLasting);
+    PatchVerdict TakePlain(Bytes old);
+    PatchVerdict TakeCopied(std::size_t count);
     PatchVerdict TakeExtra(std::uint64_t size);
     /// How many of \a size bytes fit into the current piece.
     std::size_t FittingBytes(std::uint64_t size) const;

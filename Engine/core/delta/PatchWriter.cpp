@@ -20,7 +20,7 @@ void PatchWriter::Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes 
         }
         for (std::uint64_t left = step.likeBytes; left > 0;)
         {
-            Bytes const piece = old.Next();
+            Bytes const piece = old.Next(m_piece.data(), m_piece.size());
             AddLike(piece, newBytes.substr(made, piece.size()));
             made += piece.size();
             left -= piece.size();

@@ -30,6 +30,7 @@ private:
     std::uint64_t m_position = 0;
     std::uint64_t m_sameRun = 0;
     std::uint64_t m_changedRun = 0;
+    ByteBuffer m_piece = ByteBuffer(PATCH_PIECE_BYTES);
 };
 
 } // namespace Pelnar::Engine

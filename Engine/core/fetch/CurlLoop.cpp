@@ -192,6 +192,8 @@ void CurlLoop::Remove(CURL* transfer)
         return;
     }
     m_running.erase(running);
+    // A transfer that still runs may wait on a dead connection. libcurl would keep one of HTTP/2 for the next request.
+    curl_easy_setopt(transfer, CURLOPT_FORBID_REUSE, 1L);
     curl_multi_remove_handle(m_multi, transfer);
     if (m_running.empty())
     {

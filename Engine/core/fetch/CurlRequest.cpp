@@ -138,6 +138,8 @@ void CurlRequest::SetSafety(FetchLimits const& limits)
     curl_easy_setopt(easy, CURLOPT_HTTP09_ALLOWED, 0L);
     curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_2TLS});
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    // Only the system knows when an address expires or the network changes.
+    curl_easy_setopt(easy, CURLOPT_DNS_CACHE_TIMEOUT, 0L);
     // Without it, cancelling a name lookup waits for the system to finish it.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(easy, CURLOPT_BUFFERSIZE, PASS_BYTES);

@@ -363,10 +363,13 @@ void HttpTransfer::SampleRate()
         return;
     }
     qint64 const inWindow = m_received - m_receivedAtSample.front();
+    bool const hasStopped = m_received == m_receivedAtSample[SAMPLES_IN_WINDOW / 2];
     m_receivedAtSample.pop_front();
     if (inWindow * 1000 < m_limits.minBytesPerSecond * m_limits.rateWindow.count())
     {
-        Fail(MakeError(ErrorCause::TooSlow));
+        // A body that stops completely is the only sign that a network has forgotten the connection.
+        bool const isForgotten = m_stage == TransferStage::Body && hasStopped;
+        Fail(MakeError(isForgotten ? ErrorCause::IncompleteBody : ErrorCause::TooSlow));
     }
 }
 

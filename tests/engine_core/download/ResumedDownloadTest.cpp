@@ -3,6 +3,9 @@
 #include "tests/engine_core/download/ArchiveDownloadFixture.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
+#include "tests/support/FileServer.h"
+#include "tests/support/Relay.h"
+#include "tests/support/TestCertificates.h"
 
 #include <fcntl.h>
 
@@ -266,3 +269,36 @@ TEST_F(ArchiveDownloadTest, ResetConnectionIsGoneOnWith)
 }
 
 } // namespace
+TEST_F(ArchiveDownloadTest, ConnectionThatTheNetworkForgetsIsGoneOnWithOverAnother)
+{
+    LoopbackServer server(Serving({ARCHIVE, "\"one\""}));
+    Relay relay(server.Url());
+    relay.ForgetAfter(100000);
+    DownloadRequest request = RequestFor(relay.Url(), SIZE);
+    request.limits.rateWindow = milliseconds(1000);
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    ASSERT_EQ(server.Requests().size(), 2u);
+    EXPECT_GT(RangeStart(server.Requests()[1]).value_or(0), 90000);
+}
+
+TEST_F(ArchiveDownloadTest, ConnectionOfHttp2ThatTheNetworkForgetsIsReplaced)
+{
+    TestCertificates certificates;
+    TrustedAuthority const trusted(certificates.Authority());
+    (void)certificates.Signed("127.0.0.1");
+    QTemporaryDir served;
+    QFile file(served.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(ARCHIVE) == SIZE && file.flush());
+    FileServer const server(served.path(), {certificates.CertificateFile(), certificates.KeyFile()});
+    if (!server.IsThere())
+    {
+        GTEST_SKIP() << "there is no nghttpd here";
+    }
+    Relay relay(server.Url(QStringLiteral("/file")));
+    relay.ForgetAfter(100000);
+    DownloadRequest request = RequestFor(relay.Url(), SIZE);
+    request.limits.rateWindow = milliseconds(1000);
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_EQ(relay.Connections(), 2);
+}
+

@@ -1,7 +1,6 @@
 // FetchProcessTest.cpp: a fetch seen from outside its process: its system calls and its memory, with a wrong clock,
 // with a missing network.
 #include "tests/engine_core/fetch/FetchHarness.h"
-#include "tests/support/FileServer.h"
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/ProgramOutput.h"
 #include "tests/support/Sanitizers.h"
@@ -248,6 +247,43 @@ TEST_P(Unreachable, IsGivenUpAtTheDeadlineForConnecting)
     EXPECT_LT(clock.elapsed(), report.milliseconds + 5000) << "the process does not wait for the name server";
 }
 
+/// The server of "moved.example" answers once, and then answers only at another address. The appended words run
+/// meanwhile.
+char const MOVED_SERVER[] = R"(
+import http.server, subprocess, sys, threading
+class Old(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        open(sys.argv[1], "w").write("127.0.0.3 moved.example\n")
+        self.wfile.write(b"HTTP/1.1 302 Found\r\nLocation: /feed.xml\r\nContent-Length: 0\r\n\r\n")
+class New(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        self.wfile.write(b"HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\n<rss/>")
+old = http.server.HTTPServer(("127.0.0.2", 8000), Old)
+new = http.server.HTTPServer(("127.0.0.3", 8000), New)
+threading.Thread(target=lambda: (old.handle_request(), old.server_close()), daemon=True).start()
+threading.Thread(target=new.serve_forever, daemon=True).start()
+subprocess.run(sys.argv[2:])
+)";
+
+TEST_F(FetchProcessTest, ServerIsFoundAtItsNewAddress)
+{
+    QStringList const ownNetwork = InOwnNetwork("set -e\n"
+                                                "ip link set lo up\n"
+                                                "echo '127.0.0.2 moved.example' > \"$0/hosts\"\n"
+                                                "mount --bind \"$0/hosts\" /etc/hosts\n"
+                                                "\"$@\"\n");
+    if (!works(ownNetwork.front(), ownNetwork.mid(1) << QStringLiteral("true")))
+    {
+        GTEST_SKIP() << "no network of one's own can be made here";
+    }
+    QStringList const server{QStringLiteral("python3"), QStringLiteral("-c"), QString::fromLatin1(MOVED_SERVER),
+                             folder.filePath(QStringLiteral("hosts"))};
+    Report const report = probe(ownNetwork + server,
+                                {QStringLiteral("http://moved.example:8000/"), QString(), QStringLiteral("anywhere")});
+    EXPECT_EQ(report.cause, 0) << report.all.toStdString();
+    EXPECT_EQ(report.bytes, 6);
+}
+
 /// An OpenSSL configuration that permits every protocol and cipher.
 class PermissiveConfiguration : public FetchProcessTest, public ::testing::WithParamInterface<char const*>
 {
@@ -320,61 +356,6 @@ TEST_F(PermissiveConfiguration, LetsAStrongConnectionBe)
     Report const report = probe({QStringLiteral("env"), configuration}, {url, certificates.AuthorityFile()});
     EXPECT_EQ(report.cause, 0) << report.all.toStdString();
     EXPECT_GT(report.bytes, 0);
-}
-
-class Http2 : public FetchProcessTest
-{
-protected:
-    void SetUp() override
-    {
-        if (!server.IsThere())
-        {
-            GTEST_SKIP() << "there is no nghttpd here";
-        }
-    }
-
-    /// Serves \a bytes, last changed at \a time. Returns their address.
-    QUrl Serve(QByteArray const& bytes, QDateTime const& time = QDateTime::currentDateTime())
-    {
-        QFile file(served.filePath(QStringLiteral("file")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
-        EXPECT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
-        return server.Url(QStringLiteral("/file"));
-    }
-
-    QTemporaryDir served;
-    TestCertificates certificates;
-    TrustedAuthority trusted{certificates.Authority()};
-    ServerIdentity identity = certificates.Signed("127.0.0.1");
-    FileServer server{served.path(), {certificates.CertificateFile(), certificates.KeyFile()}};
-};
-
-TEST_F(Http2, FeedIsFetched)
-{
-    QByteArray const body(3 * 1024 * 1024, 'x');
-    QUrl const url = Serve(body);
-    EXPECT_EQ(Fetch(url).bytes, body);
-    EXPECT_EQ(Fetch(url).bytes, body) << "over the same connection";
-}
-
-TEST_F(Http2, UnchangedFeedIsNotSentAgain)
-{
-    QByteArray const body(1000, 'x');
-    QUrl const url = Serve(body, QDateTime(QDate(2016, 11, 6), QTime(8, 49, 37), Qt::UTC));
-    FetchOutcome const first = Fetch(url);
-    ASSERT_TRUE(first.keepable) << "it says when the file was changed";
-    FetchOutcome const again = Fetch(url, ShortLimits(), InsecureHttp::LoopbackOnly, first.keepable);
-    EXPECT_EQ(CauseOf(again), ErrorCause::NoUpdate);
-    EXPECT_TRUE(again.isUnchanged);
-    EXPECT_EQ(again.bytes, body);
-}
-
-TEST_F(Http2, FeedThatIsTooLargeOrMissingIsRefused)
-{
-    EXPECT_EQ(CauseOf(Fetch(Serve(QByteArray(5 * 1024 * 1024, 'x')))), ErrorCause::BodyTooLarge);
-    FetchOutcome const outcome = Fetch(server.Url(QStringLiteral("/missing")));
-    ASSERT_EQ(CauseOf(outcome), ErrorCause::HttpStatus);
-    EXPECT_EQ(outcome.error->httpStatus, 404);
 }
 
 class EndlessAnswer : public FetchProcessTest

@@ -40,7 +40,7 @@ public:
     {
         m_resumeTimer.setSingleShot(true);
         m_progressTimer.setTimerType(Qt::CoarseTimer);
-        connect(&m_resumeTimer, &QTimer::timeout, this, [this] { Ask(); });
+        connect(&m_resumeTimer, &QTimer::timeout, this, &Impl::AskAgain);
         connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(Spent()); });
         connect(&m_turnTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadPaused); });
         connect(&m_budgetTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadTooLong); });
@@ -100,7 +100,9 @@ private:
             m_writer->Finish();
             return;
         }
-        if (m_request.purpose == DownloadFor::Person && !JudgeSpending(m_spent, m_partial.declaredBytes, Missing()))
+        // The server may begin again.
+        if (m_request.purpose == DownloadFor::Person &&
+            !JudgeSpending(m_spent, m_partial.declaredBytes, m_partial.declaredBytes))
         {
             m_spent = {m_partial.bytes, 0, 0};
         }
@@ -149,9 +151,17 @@ private:
     /// Requests the missing bytes.
     void Ask() { Ask(RangeFields(m_partial)); }
 
+    /// A request for the whole archive that has brought nothing of it is repeated.
+    void AskAgain()
+    {
+        bool const hasBegun = m_decision && m_decision->step == ResumeStep::Restart;
+        m_sent.rangeFields.empty() && !hasBegun ? Ask({}) : Ask();
+    }
+
     void Ask(std::vector<HeaderField> const& rangeFields)
     {
-        if (Result<void> const spending = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()); !spending)
+        quint64 const asked = rangeFields.empty() ? m_partial.declaredBytes : Missing();
+        if (Result<void> const spending = JudgeSpending(Spent(), m_partial.declaredBytes, asked); !spending)
         {
             End(spending.error());
             return;
@@ -204,12 +214,15 @@ private:
         m_decision = DecideResume(m_partial, head);
         if (m_decision->step == ResumeStep::Restart)
         {
-            if (Result<void> const budget = JudgeRestart(); !budget)
+            if (Result<void> const budget = JudgeBytes(m_partial.declaredBytes); !budget)
             {
                 m_decision = {ResumeStep::Refuse, budget.error()};
                 return std::nullopt;
             }
-            BeginAnew(StrongValidators(head));
+            m_partial.validators = StrongValidators(head);
+            m_partial.bytes = 0;
+            m_writer->Restart(m_partial.validators);
+            m_rate = TransferRate();
         }
         if (m_decision->step != ResumeStep::Append && m_decision->step != ResumeStep::Restart)
         {
@@ -224,16 +237,6 @@ private:
         std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).receivedBytes;
         bool const isWithin = m_spent.receivedBytes + bytes <= budget;
         return isWithin ? Result<void>() : Failure(ErrorCause::DownloadTooMuch);
-    }
-
-    Result<void> JudgeRestart() const { return JudgeBytes(m_partial.declaredBytes); }
-
-    void BeginAnew(Validators const& validators)
-    {
-        m_writer->Restart(validators);
-        m_partial.bytes = 0;
-        m_partial.validators = validators;
-        m_rate = TransferRate();
     }
 
     BodyBuffer Buffer() override { return m_writer->Buffer(); }
@@ -321,13 +324,7 @@ private:
             TakeFailure(MakeError(ErrorCause::DownloadRangeWrong));
             return;
         }
-        if (Result<void> const budget = JudgeRestart(); !budget)
-        {
-            End(budget.error());
-            return;
-        }
-        BeginAnew({});
-        Ask();
+        Ask({});
     }
 
     void TakeFailure(EngineError const& failure)
@@ -364,7 +361,8 @@ private:
     {
         StopTimers();
         auto const done = [this, error] { Finish(Failure(error)); };
-        if (IsAboutTheArchive(error.cause))
+        bool const isBodyRefused = m_decision && m_decision->step != ResumeStep::Refuse;
+        if (isBodyRefused && IsAboutTheArchive(error.cause))
         {
             return m_writer->Remove(Spent(), done);
         }

@@ -27,7 +27,7 @@ enum class ResumeStep
     Append,   ///< the body is the rest
     Restart,  ///< the body is the whole archive: begin at 0
     HandOver, ///< what is on the disk is the whole archive
-    AskWhole, ///< the bytes on the disk are useless: discard them and request the whole archive
+    AskWhole, ///< the answer is useless: request the whole archive
     Refuse,
 };
 
@@ -46,7 +46,7 @@ struct ResumeRules
 /// True if the server's answer was refused, though the archive may be the right one.
 [[nodiscard]] bool IsAnswersFault(EngineError const& error);
 
-/// True if the server's archive cannot be the archive of the feed, so that no part of it is worth keeping.
+/// True if the server's archive cannot be the archive of the feed, so that no part of its body is worth keeping.
 [[nodiscard]] bool IsAboutTheArchive(ErrorCause cause);
 
 } // namespace Pelnar::Engine

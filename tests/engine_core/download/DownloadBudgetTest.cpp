@@ -333,6 +333,26 @@ TEST_F(DownloadBudgetTest, PersonMaySpendAnotherBudgetAndGoesOnWithWhatIsThere)
     EXPECT_EQ(RecordOf(request)->spent.attempts, 1u);
 }
 
+TEST_F(DownloadBudgetTest, PersonMaySpendAnotherBudgetIfTheServerBeginsAgain)
+{
+    QByteArray const archive = MakeArchive(300000);
+    for (QByteArray const& tag : {QByteArray("\"one\""), QByteArray()})
+    {
+        RemoveFolder();
+        LoopbackServer server(
+            [&](QSslSocket& socket, QByteArray const& request, int number)
+            {
+                Serving(number == 0 ? ServedArchive{archive, tag, {}, 200000}
+                                    : ServedArchive{archive, "\"two\""})(socket, request, number);
+            });
+        DownloadRequest request = LeavePart(server, archive.size());
+        Spend(request, {400000, 2, 10}); // enough for the rest, but not for the whole
+        EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooMuch);
+        request.purpose = DownloadFor::Person;
+        EXPECT_EQ(Run(request).bytes, archive) << tag.toStdString();
+    }
+}
+
 TEST_F(DownloadBudgetTest, WholeArchiveIsHandedOverAlthoughTheBudgetIsSpent)
 {
     QByteArray const archive = MakeArchive(300000);

@@ -56,6 +56,18 @@ TEST_P(WrongRange, IsNotAppendedTheWholeIsAskedForOnceAndThenRefused)
     EXPECT_EQ(RangeStart(server.Requests()[2]), std::nullopt);
 }
 
+TEST_P(WrongRange, LosesNothingWhereTheWholeIsRefused)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    QByteArray const wrong = QByteArray("HTTP/1.1 206 Partial\r\nETag: \"one\"\r\n") + GetParam() + "\r\n";
+    script = [wrong](QSslSocket& socket, QByteArray const& request, int)
+    { Answering(RangeStart(request) ? wrong : "HTTP/1.1 503 Later\r\n\r\n")(socket, request, 0); };
+    EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::HttpStatus);
+    EXPECT_EQ(PartialBytes(), ARCHIVE.left(100000));
+}
+
 TEST_P(WrongRange, ToARequestForTheWholeIsAnError)
 {
     LoopbackServer server(Answering(QByteArray("HTTP/1.1 206 Partial\r\nETag: \"one\"\r\n") + GetParam() + "\r\n"));
@@ -137,6 +149,21 @@ TEST_F(ArchiveDownloadTest, WrongRangesAgainAndAgainEndInAnError)
     EXPECT_EQ(server.Requests().size(), 4u) << "whole, wrong, whole, wrong";
 }
 
+TEST_F(ArchiveDownloadTest, RequestForTheWholeThatBringsNothingIsRepeated)
+{
+    LoopbackServer server(
+        [](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            QByteArray const wrong = "HTTP/1.1 206 Partial\r\nContent-Range: bytes 0-1/2\r\n\r\n";
+            Answering(RangeStart(request) ? wrong
+                      : number == 2       ? QByteArray()
+                                          : AnswerFor({ARCHIVE, "\"one\"", {}, number == 0 ? 1000 : -1}, request))(
+                socket, request, number);
+        });
+    EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).bytes, ARCHIVE);
+    EXPECT_EQ(server.Requests().size(), 4u);
+}
+
 TEST_F(ArchiveDownloadTest, ArchiveThatChangedBetweenItsPartsIsFetchedWhole)
 {
     QByteArray const other = MakeArchive(SIZE + 5).right(SIZE);
@@ -170,6 +197,19 @@ TEST_F(ArchiveDownloadTest, SizeThatChangedIsRefused)
     ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
     script = Serving({ARCHIVE + "more", "\"one\""});
     EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::DownloadLengthDiffers);
+}
+
+TEST_F(ArchiveDownloadTest, PageInTheArchivesPlaceCostsNoByte)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Answering(OkAnswer("<html>We are back soon.</html>"));
+    EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::DownloadLengthDiffers);
+    EXPECT_EQ(PartialBytes(), ARCHIVE.left(100000));
+    script = Serving({ARCHIVE, "\"one\""});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+    EXPECT_EQ(RangeStart(server.Requests().back()), 100000);
 }
 
 TEST_F(ArchiveDownloadTest, PartOfAnUnnamedVersionIsNotResumed)
@@ -268,7 +308,6 @@ TEST_F(ArchiveDownloadTest, ResetConnectionIsGoneOnWith)
     EXPECT_TRUE(result.bytes == ARCHIVE || result.cause == ErrorCause::IncompleteHead);
 }
 
-} // namespace
 TEST_F(ArchiveDownloadTest, ConnectionThatTheNetworkForgetsIsGoneOnWithOverAnother)
 {
     LoopbackServer server(Serving({ARCHIVE, "\"one\""}));
@@ -302,3 +341,4 @@ TEST_F(ArchiveDownloadTest, ConnectionOfHttp2ThatTheNetworkForgetsIsReplaced)
     EXPECT_EQ(relay.Connections(), 2);
 }
 
+} // namespace

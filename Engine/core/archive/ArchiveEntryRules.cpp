@@ -128,20 +128,19 @@ UpdateFault NormalizePath(ArchiveEntry const& entry, ArchiveLimits const& limits
     {
         text.remove_prefix(2);
     }
-    std::vector<std::string_view> const parts = Split(text);
-    for (std::string_view const part : parts)
+    path = text;
+    int depth = 0;
+    for (bool isGoing = true; isGoing; ++depth)
     {
-        if (UpdateFault const fault = CheckComponent(part, limits); fault != UpdateFault::None)
+        std::size_t const slash = text.find('/');
+        if (UpdateFault const fault = CheckComponent(text.substr(0, slash), limits); fault != UpdateFault::None)
         {
             return fault;
         }
+        isGoing = slash != std::string_view::npos;
+        text.remove_prefix(isGoing ? slash + 1 : 0);
     }
-    if (parts.size() > static_cast<std::size_t>(limits.maxDepth))
-    {
-        return UpdateFault::EntryTooDeep;
-    }
-    path = text;
-    return UpdateFault::None;
+    return depth > limits.maxDepth ? UpdateFault::EntryTooDeep : UpdateFault::None;
 }
 
 UpdateFault CheckType(ArchiveEntry const& entry)
@@ -216,7 +215,9 @@ EntryAdmission ArchiveEntryRules::Admit(ArchiveEntry const& entry)
     }
     if (admission.fault == UpdateFault::None)
     {
-        admission.fault = AddFolders(ParentOf(admission.path));
+        std::string_view const parent = ParentOf(admission.path);
+        admission.fault = AddFolders(parent);
+        m_lastParent = admission.fault == UpdateFault::None ? parent : m_lastParent;
     }
     if (admission.fault == UpdateFault::None)
     {
@@ -230,7 +231,7 @@ EntryAdmission ArchiveEntryRules::Admit(ArchiveEntry const& entry)
 
 UpdateFault ArchiveEntryRules::AddFolders(std::string_view path)
 {
-    if (path.empty())
+    if (path.empty() || path == m_lastParent)
     {
         return UpdateFault::None;
     }

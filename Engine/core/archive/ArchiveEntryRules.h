@@ -101,6 +101,7 @@ private:
     std::unordered_map<std::string, Node> m_nodes;
     std::unordered_map<std::string, std::string> m_foldedNames; ///< maps each folded path to the path that uses it
     std::vector<std::string> m_topLevel;
+    std::string m_lastParent; ///< a folder, of the last entry: neighbours in an archive mostly have the same one
 };
 
 } // namespace Pelnar::Engine

@@ -12,8 +12,8 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// In the joined format, only the old version has the sizes of kept files. With these sizes the tree is judged again
-/// before anything is made.
+/// In the joined format, only the old version has the sizes of kept files. They count as the other files' sizes, which
+/// were judged when the manifest was read.
 DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaManifest& manifest)
 {
     if (manifest.format != DeltaFormat::Joined)
@@ -21,6 +21,7 @@ DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaMani
         return {};
     }
     auto const files = std::make_unique<BundleFiles>(oldBundleFd, -1);
+    std::uint64_t bytes = 0;
     for (DeltaEntry& entry : manifest.entries)
     {
         DeltaOutcome outcome;
@@ -28,13 +29,18 @@ DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaMani
         {
             outcome = files->FindSize(entry.sourcePath, entry.size);
         }
+        if (outcome.HasSucceeded() && entry.size > limits.tree.maxBytes - bytes)
+        {
+            outcome = {DeltaError::TreeRefused, {}, 0, UpdateFault::TooManyBytes};
+        }
         if (!outcome.HasSucceeded())
         {
             outcome.path = entry.path;
             return outcome;
         }
+        bytes += entry.size;
     }
-    return OutcomeOf(CheckDeltaManifest(manifest, limits));
+    return {};
 }
 
 /// From the hashes of the written files.

@@ -115,10 +115,10 @@ UpdateFault Admit(ArchiveEntryRules& policy, DeltaEntry const& entry)
     return isPlain ? admission.fault : UpdateFault::EntryNameInvalid;
 }
 
-std::string ParentOf(std::string const& path)
+std::string_view ParentOf(std::string_view path)
 {
     std::size_t const slash = path.rfind('/');
-    return slash == std::string::npos ? std::string() : path.substr(0, slash);
+    return slash == std::string_view::npos ? std::string_view() : path.substr(0, slash);
 }
 
 } // namespace
@@ -161,7 +161,8 @@ DeltaManifestVerdict CheckTree(std::vector<DeltaEntry> const& entries, DeltaLimi
     root.path = ROOT;
     root.type = ArchiveEntryType::Folder;
     UpdateFault fault = policy.Admit(root).fault;
-    std::set<std::string> folders{std::string()};
+    std::set<std::string, std::less<>> folders{std::string()};
+    std::string_view lastParent;
     std::string const* previous = nullptr;
     for (DeltaEntry const& entry : entries)
     {
@@ -171,7 +172,9 @@ DeltaManifestVerdict CheckTree(std::vector<DeltaEntry> const& entries, DeltaLimi
             return {DeltaManifestError::TreeRefused, fault, entry.path};
         }
         // Folders are entries, so nothing is ever created below a link or a file.
-        if ((previous && *previous >= entry.path) || folders.count(ParentOf(entry.path)) == 0)
+        std::string_view const parent = ParentOf(entry.path);
+        bool const isInFolder = parent == lastParent || folders.count(parent) != 0;
+        if ((previous && *previous >= entry.path) || !isInFolder)
         {
             return {DeltaManifestError::NotInOrder, UpdateFault::None, entry.path};
         }
@@ -180,6 +183,7 @@ DeltaManifestVerdict CheckTree(std::vector<DeltaEntry> const& entries, DeltaLimi
             folders.insert(entry.path);
         }
         previous = &entry.path;
+        lastParent = parent;
     }
     fault = policy.Finish();
     return {fault == UpdateFault::None ? DeltaManifestError::None : DeltaManifestError::TreeRefused, fault, {}};

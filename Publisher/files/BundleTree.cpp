@@ -224,7 +224,7 @@ Engine::ContentHash BundleTree::Digest() const
 
 void BundleTree::ReadInformation()
 {
-    Engine::TreeAccess const tree(Descriptor());
+    Engine::TreeAccess tree(Descriptor());
     Engine::UniqueFd file = tree.OpenFile(Engine::INFORMATION_PATH);
     char const* path = Engine::INFORMATION_PATH;
     auto const isMissing = [&file] { return !file && (errno == ENOENT || errno == ENOTDIR || errno == ELOOP); };

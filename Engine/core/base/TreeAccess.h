@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include <sys/stat.h>
+
 namespace Pelnar::Engine
 {
 
@@ -16,17 +18,21 @@ public:
     explicit TreeAccess(int folderFd) : m_folderFd(folderFd) {}
 
     /// Opens an existing file for reading. A link as any component is refused.
-    UniqueFd OpenFile(std::string const& path) const;
+    UniqueFd OpenFile(std::string const& path);
+    /// The status of what has \a path, which may be a link itself.
+    [[nodiscard]] bool FindStatus(std::string const& path, struct stat& status);
     /// Creates a file for writing and reading, with mode 0755 if \a isExecutable, else 0644. The umask has no effect.
     UniqueFd MakeFile(std::string const& path, bool isExecutable);
     [[nodiscard]] bool MakeFolder(std::string const& path);
     [[nodiscard]] bool MakeLink(std::string const& path, std::string const& target);
 
 private:
-    UniqueFd OpenBeneath(std::string const& path, int flags, unsigned mode) const;
-    UniqueFd OpenParent(std::string const& path, std::string& name) const;
+    UniqueFd Open(std::string const& path, int flags, unsigned mode);
+    [[nodiscard]] bool EnterParent(std::string const& path, std::string& name);
 
     int m_folderFd;
+    std::string m_parentPath; ///< of m_parent
+    UniqueFd m_parent;        ///< the parent of the last path: neighbours in a tree mostly have the same one
 };
 
 } // namespace Pelnar::Engine

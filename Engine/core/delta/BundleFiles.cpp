@@ -4,7 +4,6 @@
 
 #include <linux/fs.h>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -20,6 +19,13 @@ namespace
 constexpr std::uint64_t LARGE_FILE_BYTES = std::uint64_t{1} << 20;
 constexpr std::size_t HASHED_PIECES = 7; ///< that wait for their hash
 
+/// The outcome for an old file that cannot be opened or found, by errno.
+DeltaOutcome OldFileFailure()
+{
+    bool const isMissing = errno == ENOENT || errno == ELOOP || errno == ENOTDIR;
+    return {isMissing ? DeltaError::BaseDiffers : DeltaError::CannotRead, {}, errno};
+}
+
 } // namespace
 
 DeltaOutcome WriteFailure()
@@ -32,34 +38,31 @@ DeltaOutcome SourceFailure()
     return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
 }
 
-DeltaOutcome BundleFiles::Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const
+DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file)
 {
     file = m_old.OpenFile(path);
     if (!file)
     {
-        bool const isMissing = errno == ENOENT || errno == ELOOP || errno == ENOTDIR;
-        return {isMissing ? DeltaError::BaseDiffers : DeltaError::CannotRead, {}, errno};
+        return OldFileFailure();
     }
     struct stat status;
     if (fstat(file.Get(), &status) != 0)
     {
         return {DeltaError::CannotRead, {}, errno};
     }
+    bool const isSame = S_ISREG(status.st_mode) && static_cast<std::uint64_t>(status.st_size) == size;
+    return isSame ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+}
+
+DeltaOutcome BundleFiles::FindSize(std::string const& path, std::uint64_t& size)
+{
+    struct stat status;
+    if (!m_old.FindStatus(path, status))
+    {
+        return OldFileFailure();
+    }
     size = static_cast<std::uint64_t>(status.st_size);
     return S_ISREG(status.st_mode) ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
-}
-
-DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const
-{
-    std::uint64_t found = 0;
-    DeltaOutcome const outcome = Open(path, file, found);
-    return outcome.HasSucceeded() && found != size ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0} : outcome;
-}
-
-DeltaOutcome BundleFiles::FindSize(std::string const& path, std::uint64_t& size) const
-{
-    UniqueFd file;
-    return Open(path, file, size);
 }
 
 DeltaOutcome BundleFiles::Make(DeltaEntry const& entry, ContentHasher& hasher)

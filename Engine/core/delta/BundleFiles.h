@@ -21,9 +21,9 @@ public:
     BundleFiles(int oldBundleFd, int stagingFd) : m_old(oldBundleFd), m_staging(stagingFd) {}
 
     /// Opens the old version's file \a path if it is a plain file of \a size bytes.
-    [[nodiscard]] DeltaOutcome OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const;
+    [[nodiscard]] DeltaOutcome OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file);
     /// The size of the old version's file \a path, if it is a plain file.
-    [[nodiscard]] DeltaOutcome FindSize(std::string const& path, std::uint64_t& size) const;
+    [[nodiscard]] DeltaOutcome FindSize(std::string const& path, std::uint64_t& size);
     /// Makes a folder, a link or a kept file, and adds the bytes of the file to \a hasher. REQUIRES: an entry of one of
     /// these kinds.
     [[nodiscard]] DeltaOutcome Make(DeltaEntry const& entry, ContentHasher& hasher);
@@ -34,7 +34,6 @@ public:
 private:
     /// Clones or copies the old file.
     DeltaOutcome Keep(DeltaEntry const& entry, ContentHasher& hasher);
-    DeltaOutcome Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const;
     /// Only hashes if \a target is negative.
     DeltaOutcome Copy(int source, int target, std::uint64_t size, ContentHasher& hasher);
     /// Reads into \a pieces in turn, and passes each piece to \a add.

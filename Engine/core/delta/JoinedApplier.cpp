@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
+#include <numeric>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -32,7 +33,17 @@ std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const&
     return streams;
 }
 
-using Mappings = std::vector<std::unique_ptr<FileMapping>>;
+/// The old files of a unit up to this size are read: mapping and unmapping small files takes longer.
+constexpr std::uint64_t SMALL_UNIT_BYTES = 256 * 1024;
+
+/// The content of an old file.
+struct OldFile
+{
+    ByteBuffer copy; ///< of a small file
+    std::unique_ptr<FileMapping> mapping;
+
+    Bytes Content() const { return mapping ? mapping->Content() : View(copy); }
+};
 
 class Applier
 {
@@ -121,14 +132,23 @@ private:
         return hashes.Finish();
     }
 
-    DeltaOutcome Map(DeltaSource const& source, std::unique_ptr<FileMapping>& mapping) const
+    DeltaOutcome Open(DeltaSource const& source, bool isSmall, OldFile& old)
     {
         UniqueFd file;
         DeltaOutcome outcome = m_files.OpenOld(source.path, source.size, file);
-        if (outcome.HasSucceeded())
+        auto const size = static_cast<std::size_t>(source.size);
+        if (outcome.HasSucceeded() && isSmall)
         {
-            mapping = std::make_unique<FileMapping>(file.Get(), static_cast<std::size_t>(source.size));
-            outcome = mapping->IsValid() ? outcome : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+            old.copy.resize(size);
+            ssize_t const got = ReadUpTo(file.Get(), 0, old.copy.data(), size);
+            outcome = got < 0                                ? DeltaOutcome{DeltaError::CannotRead, {}, errno}
+                      : static_cast<std::size_t>(got) < size ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
+                                                             : outcome;
+        }
+        else if (outcome.HasSucceeded())
+        {
+            old.mapping = std::make_unique<FileMapping>(file.Get(), size);
+            outcome = old.mapping->IsValid() ? outcome : DeltaOutcome{DeltaError::CannotRead, {}, errno};
         }
         outcome.path = outcome.HasSucceeded() ? std::string() : source.path;
         return outcome;
@@ -136,17 +156,20 @@ private:
 
     DeltaOutcome MakeUnit(DeltaUnit const& unit)
     {
-        auto const oldFiles = std::make_shared<Mappings>(unit.sources.size());
-        Mappings& mappings = *oldFiles;
+        auto const oldFiles = std::make_shared<std::vector<OldFile>>(unit.sources.size());
         m_oldFiles = oldFiles;
+        auto const addSize = [](std::uint64_t sum, DeltaSource const& source) { return sum + source.size; };
+        bool const isSmall =
+            std::accumulate(unit.sources.begin(), unit.sources.end(), std::uint64_t(0), addSize) <= SMALL_UNIT_BYTES;
         std::vector<Bytes> files;
-        for (std::size_t i = 0; i < mappings.size(); ++i)
+        for (std::size_t i = 0; i < unit.sources.size(); ++i)
         {
-            if (DeltaOutcome outcome = Map(unit.sources[i], mappings[i]); !outcome.HasSucceeded())
+            OldFile& old = (*oldFiles)[i];
+            if (DeltaOutcome outcome = Open(unit.sources[i], isSmall, old); !outcome.HasSucceeded())
             {
                 return outcome;
             }
-            files.push_back(mappings[i]->Content());
+            files.push_back(old.Content());
         }
         m_patches.StartText();
         PlainText old(files, ResidentPages(files));
@@ -318,7 +341,7 @@ private:
     std::vector<DeltaStream> m_streams;
     PatchSources m_sources;
     PatchApplier m_patches;
-    std::shared_ptr<Mappings const> m_oldFiles; ///< of the current unit
+    std::shared_ptr<void const> m_oldFiles; ///< of the current unit
     KeptFiles m_kept;
     PackingThread m_packing;
     ByteSink const m_sink = [this](Bytes piece) { return m_writer.Add(piece); };

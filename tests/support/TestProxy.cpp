@@ -1,7 +1,5 @@
 #include "tests/support/TestProxy.h"
 
-#include <QHostAddress>
-
 #include <utility>
 
 namespace Pelnar::Testing
@@ -26,10 +24,10 @@ enum SocksStep
 
 } // namespace
 
-TestProxy::TestProxy(Kind kind, quint16 serverPort, QByteArray user, QByteArray password)
+TestProxy::TestProxy(Kind kind, quint16 serverPort, QByteArray user, QByteArray password, QHostAddress const& address)
     : m_kind(kind), m_serverPort(serverPort), m_user(std::move(user)), m_password(std::move(password))
 {
-    if (!listen(QHostAddress::LocalHost))
+    if (!listen(address))
     {
         qFatal("cannot listen: %s", qPrintable(errorString()));
     }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHostAddress>
 #include <QString>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -22,8 +23,9 @@ public:
         Socks5,
     };
 
-    /// Connects to \a serverPort. If \a user is set, it requires the user and the password.
-    TestProxy(Kind kind, quint16 serverPort, QByteArray user = {}, QByteArray password = {});
+    /// Connects to \a serverPort. If \a user is set, it requires the user and the password. It listens at \a address.
+    TestProxy(Kind kind, quint16 serverPort, QByteArray user = {}, QByteArray password = {},
+              QHostAddress const& address = QHostAddress(QHostAddress::LocalHost));
 
     quint16 Port() const { return serverPort(); }
     /// The requests, in order: "CONNECT name:port", "GET http://name:port/…", "name:port".

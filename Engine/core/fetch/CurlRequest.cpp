@@ -29,6 +29,12 @@ QByteArray TargetOf(QUrl const& url)
     return url.hasQuery() ? target + '?' + url.query(QUrl::FullyEncoded).toLatin1() : target;
 }
 
+/// libcurl wants an IPv6 address in brackets.
+QByteArray Bracketed(QByteArray const& host)
+{
+    return host.contains(':') && !host.startsWith('[') ? '[' + host + ']' : host;
+}
+
 /// The name to compare with a certificate: no final dot, no brackets, no zone.
 QByteArray CertificateName(QUrl const& url)
 {
@@ -94,8 +100,7 @@ void CurlRequest::SetAddress()
     // Part by part, so that libcurl extracts the same host from the address as the one that was judged.
     m_address.reset(curl_url());
     curl_url_set(m_address.get(), CURLUPART_SCHEME, url.scheme().toLatin1().constData(), 0);
-    QByteArray host = url.host(QUrl::FullyEncoded).toLatin1();
-    host = host.contains(':') && !host.startsWith('[') ? '[' + host + ']' : host;
+    QByteArray const host = Bracketed(url.host(QUrl::FullyEncoded).toLatin1());
     curl_url_set(m_address.get(), CURLUPART_HOST, host.constData(), 0);
     if (url.port() != -1)
     {
@@ -159,7 +164,7 @@ void CurlRequest::SetProxy()
     }
     // The engine has read the environment already; libcurl must not read it in another way.
     curl_easy_setopt(easy, CURLOPT_NOPROXY, "");
-    curl_easy_setopt(easy, CURLOPT_PROXY, proxy.host.toUtf8().constData());
+    curl_easy_setopt(easy, CURLOPT_PROXY, Bracketed(proxy.host.toUtf8()).constData());
     if (proxy.IsDirect())
     {
         return;

@@ -96,9 +96,10 @@ protected:
     LoopbackServer& Server() { return Proxy().isSecure ? secure : plain; }
     QUrl Url() { return Server().Url(QStringLiteral("/feed.xml"), NAME); }
 
-    void Use(quint16 port, QString const& user = {}, QString const& password = {})
+    void Use(quint16 port, QString const& user = {}, QString const& password = {},
+             QString const& host = QStringLiteral("127.0.0.1"))
     {
-        QNetworkProxy const proxy(Proxy().type, QStringLiteral("127.0.0.1"), port, user, password);
+        QNetworkProxy const proxy(Proxy().type, host, port, user, password);
         QUrl address;
         switch (std::get<Teller>(GetParam()))
         {
@@ -149,6 +150,19 @@ TEST_P(EveryProxy, BringsTheFeed)
     EXPECT_EQ(CauseOf(outcome), ErrorCause::NoUpdate);
     EXPECT_EQ(outcome.bytes, BODY);
     EXPECT_EQ(outcome.reach, AddressReach::Network) << "it is not the proxy that the feed is from";
+    EXPECT_EQ(proxy.Asked(), std::vector<QByteArray>{Asked()});
+}
+
+TEST_P(EveryProxy, MayHaveAnAddressOfIPv6)
+{
+    QHostAddress const address(QHostAddress::LocalHostIPv6);
+    if (!QTcpServer().listen(address))
+    {
+        GTEST_SKIP() << "this computer has no address of IPv6";
+    }
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()), {}, {}, address);
+    Use(proxy.Port(), {}, {}, address.toString());
+    EXPECT_EQ(FetchAnywhere(Url()).bytes, BODY);
     EXPECT_EQ(proxy.Asked(), std::vector<QByteArray>{Asked()});
 }
 

@@ -59,6 +59,10 @@ Words WordsFor(Engine::DeltaOutcome const& outcome)
     case DeltaError::ResultDiffers:
         return {"the delta makes another bundle than it states", "make it again with \"delta create\""};
     case DeltaError::CannotRead:
+        if (outcome.systemError == 0)
+        {
+            return {"has changed while this run worked", "run this again when nobody changes the file"};
+        }
         return {"cannot be read", MendOfReading(outcome.systemError)};
     case DeltaError::CannotWrite:
         return {"cannot be written", "check the folder and the space on the disk"};

@@ -78,7 +78,7 @@ DeltaEntry ReadEntry(fs::path const& folder, std::string const& path, OldVersion
 
 } // namespace
 
-OpenedFile::OpenedFile(fs::path const& path)
+OpenedFile::OpenedFile(fs::path const& path) : m_path(path)
 {
     UniqueFd const file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
     struct stat status;
@@ -91,6 +91,19 @@ OpenedFile::OpenedFile(fs::path const& path)
     {
         Fail(path, errno);
     }
+}
+
+OpenedFile::OpenedFile(fs::path const& path, std::uint64_t size) : OpenedFile(path)
+{
+    if (Content().size() != size)
+    {
+        RefuseAsChanged();
+    }
+}
+
+void OpenedFile::RefuseAsChanged() const
+{
+    throw fs::filesystem_error("has changed", m_path, std::error_code());
 }
 
 OldVersion ReadOldVersion(fs::path const& folder)

@@ -21,9 +21,14 @@ class OpenedFile
 public:
     /// Throws std::filesystem::filesystem_error if the file cannot be read.
     explicit OpenedFile(std::filesystem::path const& path);
+    /// The same, also if the file no longer has \a size bytes.
+    OpenedFile(std::filesystem::path const& path, std::uint64_t size);
     Bytes Content() const { return m_mapping->Content(); }
+    /// Throws std::filesystem::filesystem_error without an error number: the file is not what it was.
+    [[noreturn]] void RefuseAsChanged() const;
 
 private:
+    std::filesystem::path m_path;
     std::optional<FileMapping> m_mapping;
 };
 

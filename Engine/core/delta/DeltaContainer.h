@@ -21,7 +21,7 @@ enum class DeltaError
     TreeRefused,   ///< makes a tree that an archive may not hold either
     BaseDiffers,   ///< a file of the old version is missing or is not the one that the delta starts from
     ResultDiffers, ///< a new file has another hash than the manifest says
-    CannotRead,    ///< the container or the old version cannot be read
+    CannotRead,    ///< the container or a version cannot be read; without an errno, the file has changed meanwhile
     CannotWrite,   ///< the new version or the container cannot be written
 };
 

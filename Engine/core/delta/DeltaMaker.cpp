@@ -81,7 +81,19 @@ public:
     }
 
 private:
-    OpenedFile OpenNew(std::string const& path) const { return OpenedFile(m_newFolder / path); }
+    /// Throws std::filesystem::filesystem_error, also if the size has changed since the file was read first.
+    OpenedFile OpenNew(DeltaEntry const& entry) const { return OpenedFile(m_newFolder / entry.path, entry.size); }
+    OpenedFile OpenOld(DeltaSource const& source) const { return OpenedFile(m_old.folder / source.path, source.size); }
+
+    static ImageLayout LayoutOf(OpenedFile const& program)
+    {
+        std::optional<ImageLayout> layout = ReadImageSpans(program.Content());
+        if (!layout)
+        {
+            program.RefuseAsChanged();
+        }
+        return *std::move(layout);
+    }
 
     /// False for a program whose fields are not addresses, for example a packed one.
     bool IsWorthForetelling(DeltaUnit const& unit, std::vector<PatchStep> const& steps) const
@@ -90,9 +102,9 @@ private:
         {
             return false;
         }
-        OpenedFile const source(m_old.folder / unit.sources.front().path);
-        OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()].path);
-        ImageLayout const layout = *ReadImageSpans(source.Content());
+        OpenedFile const source = OpenOld(unit.sources.front());
+        OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()]);
+        ImageLayout const layout = LayoutOf(source);
         ProgramText changed(source.Content(), layout, ChangedSpans(layout, unit.spanChanges), steps);
         PlainText plain({source.Content()});
         return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
@@ -123,10 +135,9 @@ private:
 
     void MakeRecipeFaster(DeltaUnit const& unit, std::vector<PatchStep> const& steps)
     {
-        OpenedFile const oldFile(m_old.folder / unit.sources.front().path);
-        OpenedFile const newFile = OpenNew(m_manifest.entries[unit.targets.front()].path);
-        PackedBase const base{UnpackText(oldFile.Content()).value(), steps};
-        TokenizedText const newText = UnpackText(newFile.Content()).value();
+        OpenedFile const newFile = OpenNew(m_manifest.entries[unit.targets.front()]);
+        PackedBase const base{PackedTextOf(OpenOld(unit.sources.front())), steps};
+        TokenizedText const newText = PackedTextOf(newFile);
         ByteBuffer& recipe = m_recipes.at(unit.targets.front());
         recipe = FasterRecipe(recipe, newFile.Content(), newText, base);
     }
@@ -182,7 +193,7 @@ private:
         std::vector<Bytes> texts;
         for (DeltaSource const& source : unit.sources)
         {
-            texts.push_back(sources.emplace_back(m_old.folder / source.path).Content());
+            texts.push_back(sources.emplace_back(m_old.folder / source.path, source.size).Content());
             m_baseHashes.Add(View(m_old.files.at(source.path).hash));
         }
         m_writer.StartText();
@@ -191,27 +202,33 @@ private:
         {
             DeltaEntry& entry = m_manifest.entries[targets[number]];
             entry.kind = DeltaEntryKind::Patched;
-            OpenedFile const file = OpenNew(entry.path);
+            OpenedFile const file = OpenNew(entry);
             m_targetHashes.Add(View(entry.hash));
-            unit.textBytes > 0 ? AddPacked(m_recipes.at(targets[number]), texts.front(), steps[number], file.Content())
+            unit.textBytes > 0
+                ? AddPacked(unit.textBytes, m_recipes.at(targets[number]), sources.front(), steps[number], file)
             : unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
-                                       : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
+                                       : AddProgram(sources.front(), unit.spanChanges, steps[number], file.Content());
         }
         m_manifest.units.push_back(std::move(unit));
     }
 
-    void AddProgram(Bytes program, std::vector<SpanChange> const& changes, std::vector<PatchStep> const& steps,
-                    Bytes newBytes)
+    void AddProgram(OpenedFile const& program, std::vector<SpanChange> const& changes,
+                    std::vector<PatchStep> const& steps, Bytes newBytes)
     {
-        ImageLayout const layout = *ReadImageSpans(program);
-        ProgramText old(program, layout, ChangedSpans(layout, changes), steps);
+        ImageLayout const layout = LayoutOf(program);
+        ProgramText old(program.Content(), layout, ChangedSpans(layout, changes), steps);
         m_writer.Add(old, steps, newBytes);
     }
 
-    void AddPacked(ByteBuffer const& recipe, Bytes oldFile, std::vector<PatchStep> const& steps, Bytes newFile)
+    void AddPacked(std::uint64_t textBytes, ByteBuffer const& recipe, OpenedFile const& oldFile,
+                   std::vector<PatchStep> const& steps, OpenedFile const& newFile)
     {
-        ByteBuffer const oldText = UnpackText(oldFile).value().text;
-        ByteBuffer const newText = UnpackText(newFile).value().text;
+        ByteBuffer const oldText = PackedTextOf(oldFile).text;
+        ByteBuffer const newText = PackedTextOf(newFile).text;
+        if (newText.size() != textBytes)
+        {
+            newFile.RefuseAsChanged();
+        }
         PlainText old({View(oldText)});
         m_writer.AddRecord(View(recipe));
         m_writer.Add(old, steps, View(newText));
@@ -223,7 +240,7 @@ private:
         {
             DeltaEntry const& entry = m_manifest.entries[target];
             m_targetHashes.Add(View(entry.hash));
-            m_writer.AddWhole(OpenNew(entry.path).Content());
+            m_writer.AddWhole(OpenNew(entry).Content());
         }
         if (!whole.targets.empty())
         {

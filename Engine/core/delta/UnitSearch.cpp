@@ -9,7 +9,6 @@
 #include <deque>
 #include <map>
 #include <new>
-#include <system_error>
 
 namespace Pelnar::Engine
 {
@@ -29,13 +28,13 @@ public:
     {
         for (DeltaSource const& source : unit.sources)
         {
-            OpenedFile const file(folder / source.path);
+            OpenedFile const file(folder / source.path, source.size);
             m_text.insert(m_text.end(), file.Content().begin(), file.Content().end());
         }
         Bytes const plain(m_text.data(), m_text.size());
         if (unit.textBytes > 0)
         {
-            m_text = UnpackText(plain).value().text;
+            m_text = PackedTextOf(OpenedFile(folder / unit.sources.front().path)).text;
         }
         if (std::optional<ImageLayout> const layout = unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
         {
@@ -103,7 +102,7 @@ public:
         if (m_unit.textBytes > 0)
         {
             OpenedFile const file(m_newFolder / m_entries[m_unit.targets.front()].path);
-            m_changed = UnpackText(file.Content()).value().text;
+            m_changed = PackedTextOf(file).text;
         }
         if (!m_unit.spanChanges.empty())
         {
@@ -120,9 +119,7 @@ public:
         Bytes const text = m_changed.empty() ? file.Content() : View(m_changed);
         if (text.size() < piece.begin + piece.size)
         {
-            throw std::filesystem::filesystem_error("has changed",
-                                                    m_newFolder / m_entries[m_unit.targets[piece.target]].path,
-                                                    std::make_error_code(std::errc::io_error));
+            file.RefuseAsChanged();
         }
         piece.end = piece.start;
         piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
@@ -187,6 +184,16 @@ private:
 };
 
 } // namespace
+
+TokenizedText PackedTextOf(OpenedFile const& file)
+{
+    std::optional<TokenizedText> text = UnpackText(file.Content());
+    if (!text)
+    {
+        file.RefuseAsChanged();
+    }
+    return *std::move(text);
+}
 
 std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units, std::filesystem::path const& oldFolder,
                                    std::filesystem::path const& newFolder, std::vector<DeltaEntry> const& entries,

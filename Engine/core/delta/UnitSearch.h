@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/delta/BundleReader.h"
+#include "Engine/core/delta/TokenizedText.h"
 
 #include <filesystem>
 #include <functional>
@@ -16,6 +17,10 @@ using UnitSteps = std::vector<std::vector<PatchStep>>;
 
 /// Called after each piece of the work: pieces done, and in total.
 using SearchProgress = std::function<void(std::uint64_t done, std::uint64_t total)>;
+
+/// The text of a packed file of a unit. Throws std::filesystem::filesystem_error if the file has changed since the unit
+/// was planned.
+[[nodiscard]] TokenizedText PackedTextOf(OpenedFile const& file);
 
 /// The result depends only on the files, not on the machine. Throws std::filesystem::filesystem_error, and
 /// std::bad_alloc: an old text takes six times its size in memory.

@@ -1,7 +1,7 @@
 #include "Publisher/gate/PrivateKeys.h"
 
 #include "Engine/core/base/TreeWalk.h"
-#include "Engine/core/bundle/Ed25519Signature.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/keys/Signer.h"
 
 #include <QFile>
@@ -11,6 +11,7 @@
 #include <cctype>
 #include <cerrno>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 
 #include <fcntl.h>
@@ -25,8 +26,10 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t SEED_BYTES = crypto_sign_ed25519_SEEDBYTES;
 constexpr std::size_t SECRET_BYTES = crypto_sign_ed25519_SECRETKEYBYTES;
-/// Of PKCS #8: the seed after a fixed header.
-constexpr std::size_t WRAPPED_SEED_BYTES = 48;
+/// Of PKCS #8: the seed follows.
+constexpr std::uint8_t WRAPPING[] = {0x30, 0x2e, 0x02, 0x01, 0x00, 0x30, 0x05, 0x06,
+                                     0x03, 0x2b, 0x65, 0x70, 0x04, 0x22, 0x04, 0x20};
+constexpr std::size_t WRAPPED_SEED_BYTES = sizeof WRAPPING + SEED_BYTES;
 QString const MEND_OF_PUBLISHED =
     u"if the key was published before, make a new key as docs/guide/keys.md says for a stolen one"_s;
 /// A larger file is no file with a key.
@@ -73,22 +76,34 @@ struct KeyAlphabet
 std::vector<KeyAlphabet> const ALPHABETS{{IsInBase64, FromBase64, {43, 86, 64}},
                                          {IsInHexadecimal, FromHexadecimal, {64, 128, 96}}};
 
-/// The bytes in each block of \a text that PEM marks as a private key.
-std::vector<KeyBytes> MarkedKeys(std::string const& text)
+/// The base64 in each block of \a text that PEM marks as a private key.
+std::vector<std::string> MarkedTexts(std::string const& text)
 {
-    static QRegularExpression const BLOCK(u"-----BEGIN ([A-Z0-9 ]*PRIVATE KEY)-----([^<>-]*)-----END \\1-----"_s);
+    // An encrypted one may have headers.
+    static QRegularExpression const BLOCK(u"-----BEGIN ([A-Z0-9 ]*PRIVATE KEY(?: BLOCK)?)-----"
+                                          "(?:\\s+(?:[A-Za-z-]+: .*\n)+)?([^<>-]*)-----END \\1-----"_s);
     static QRegularExpression const BREAKS(u"\\\\[nr]|[^A-Za-z0-9+/]"_s); // in a text of JSON too
-    std::vector<KeyBytes> keys;
-    if (text.find("PRIVATE KEY-----") == std::string::npos)
+    std::vector<std::string> texts;
+    if (text.find("PRIVATE KEY") == std::string::npos)
     {
-        return keys;
+        return texts;
     }
     QRegularExpressionMatchIterator matches = BLOCK.globalMatch(QString::fromLatin1(text.data(), int(text.size())));
     while (matches.hasNext())
     {
-        keys.push_back(FromBase64(matches.next().captured(2).remove(BREAKS).toStdString()));
+        texts.push_back(matches.next().captured(2).remove(BREAKS).toStdString());
     }
-    return keys;
+    return texts;
+}
+
+/// True if \a content is a text with a private key for any use. A small archive may contain the test key of a server,
+/// and a document may say how a key begins and ends.
+bool HasMarkedKey(std::string const& content)
+{
+    constexpr std::size_t LEAST = 43; // of a seed
+    std::vector<std::string> const texts =
+        content.find('\0') == std::string::npos ? MarkedTexts(content) : std::vector<std::string>();
+    return std::any_of(texts.begin(), texts.end(), [](std::string const& text) { return text.size() >= LEAST; });
 }
 
 /// \a text without what separates the bytes of a key that is written in several lines.
@@ -100,48 +115,58 @@ std::string WithoutSeparators(std::string text)
     return text;
 }
 
-QString IdOf(std::uint8_t const* publicKey)
-{
-    return KeyIdOf(QByteArray(reinterpret_cast<char const*>(publicKey), SEED_BYTES).toBase64().toStdString());
-}
-
 class KeySearch
 {
 public:
-    explicit KeySearch(std::set<QString> knownIds) : m_knownIds(std::move(knownIds)) {}
-
-    [[nodiscard]] bool Finds(std::string const& content) const
+    explicit KeySearch(std::set<QString> const& knownIds)
     {
+        std::transform(knownIds.begin(), knownIds.end(), std::inserter(m_knownIds, m_knownIds.end()),
+                       [](QString const& id) { return id.toStdString(); });
+    }
+
+    [[nodiscard]] bool Finds(std::string const& content)
+    {
+        m_tried.clear();
         KeyBytes const raw(content.begin(), content.begin() + std::ptrdiff_t(std::min(content.size(), SECRET_BYTES)));
-        std::vector<KeyBytes> const marked = MarkedKeys(content);
+        std::vector<std::string> const marked = MarkedTexts(content);
         return IsKey(raw) || HasKeyText(content) ||
                (content.size() <= MOST_LINES_BYTES && HasKeyText(WithoutSeparators(content))) ||
-               std::any_of(marked.begin(), marked.end(), [this](KeyBytes const& bytes) { return HoldsKnown(bytes); });
+               std::any_of(marked.begin(), marked.end(),
+                           [this](std::string const& text) { return HoldsKnown(FromBase64(text)); });
     }
 
 private:
     /// True if a public key that is known, or that follows the seed, belongs to the seed.
-    bool IsKey(KeyBytes const& bytes) const
+    bool IsKey(KeyBytes const& bytes)
     {
-        if (bytes.size() < SEED_BYTES)
+        bool const isWrapped = bytes.size() == WRAPPED_SEED_BYTES;
+        if (bytes.size() < SEED_BYTES ||
+            (isWrapped && !std::equal(std::begin(WRAPPING), std::end(WRAPPING), bytes.begin())) ||
+            !m_tried.insert(bytes).second)
         {
             return false;
         }
-        auto const seed = bytes.size() == WRAPPED_SEED_BYTES ? bytes.end() - SEED_BYTES : bytes.begin();
         Engine::Ed25519Key publicKey;
         unsigned char secret[SECRET_BYTES];
-        ::crypto_sign_ed25519_seed_keypair(publicKey.data(), secret, &*seed);
+        ::crypto_sign_ed25519_seed_keypair(publicKey.data(), secret, bytes.data() + (isWrapped ? sizeof WRAPPING : 0));
         return (bytes.size() == SECRET_BYTES && std::equal(bytes.begin(), bytes.end(), secret)) ||
-               m_knownIds.count(IdOf(publicKey.data())) != 0;
+               IsKnown(publicKey.data());
     }
 
-    bool HasKeyText(std::string_view text) const
+    bool IsKnown(std::uint8_t const* publicKey) const
+    {
+        Engine::Ed25519Key key;
+        std::copy_n(publicKey, key.size(), key.begin());
+        return m_knownIds.count(Engine::KeyIdOf(key)) != 0;
+    }
+
+    bool HasKeyText(std::string_view text)
     {
         return std::any_of(ALPHABETS.begin(), ALPHABETS.end(),
                            [&](KeyAlphabet const& alphabet) { return HasKeyText(text, alphabet); });
     }
 
-    bool HasKeyText(std::string_view text, KeyAlphabet const& alphabet) const
+    bool HasKeyText(std::string_view text, KeyAlphabet const& alphabet)
     {
         int tries = 0;
         for (auto begin = text.begin(); begin != text.end() && tries < MOST_TRIES;)
@@ -168,7 +193,7 @@ private:
     {
         for (std::size_t at = 0; at + SEED_BYTES <= bytes.size(); ++at)
         {
-            if (m_knownIds.count(IdOf(bytes.data() + at)) != 0)
+            if (IsKnown(bytes.data() + at))
             {
                 return true;
             }
@@ -176,7 +201,8 @@ private:
         return false;
     }
 
-    std::set<QString> m_knownIds;
+    std::set<std::string> m_knownIds;
+    std::set<KeyBytes> m_tried; ///< of the content that is searched; its texts are tried with and without separators
 };
 
 void AddKeysOf(GatedVersion const& version, std::set<QString>& ids)
@@ -209,6 +235,20 @@ std::optional<std::string> ContentOf(Engine::UniqueFd const& file, off_t size)
     return file ? Engine::ReadStart(file.Get(), MOST_FILE_BYTES) : std::nullopt;
 }
 
+void WarnOfOtherKeys(QString const& archive, QStringList names, Console const& console)
+{
+    constexpr int MOST_NAMED = 5;
+    names.sort();
+    if (!names.isEmpty())
+    {
+        QString const more = names.size() > MOST_NAMED ? u" and %1 more"_s.arg(names.size() - MOST_NAMED) : QString();
+        console.Warn({archive,
+                      u"contains a private key that everybody who downloads the archive can read: \"%1\"%2"_s.arg(
+                          names.mid(0, MOST_NAMED).join(u"\", \""_s), more),
+                      u"if it is secret, replace it where it is used, and publish a new version without it"_s});
+    }
+}
+
 /// True if this user may not read something: then this user does not upload it.
 bool IsForbidden(int errorNumber)
 {
@@ -229,11 +269,12 @@ std::set<QString> KnownKeyIds(std::vector<GatedVersion> const& versions)
 }
 
 void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::set<QString> knownIds,
-                      RefusalList& refusals)
+                      Console const& console, RefusalList& refusals)
 {
     AddKeysOf(version, knownIds);
     knownIds.erase(QString());
-    KeySearch const search(std::move(knownIds));
+    KeySearch search(knownIds);
+    QStringList others;
     auto const visit = [&](std::string const& path, int folder, std::string const& entry, struct stat const& status)
     {
         if (!S_ISREG(status.st_mode))
@@ -255,16 +296,21 @@ void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std
                      .arg(name),
                  u"remove the file and pack the archive again; "_s + MEND_OF_PUBLISHED});
         }
+        else if (HasMarkedKey(*content))
+        {
+            others.append(name);
+        }
     };
     if (!Engine::WalkTree(bundle.Descriptor(), visit))
     {
         RefuseReading(version.path, errno);
     }
+    WarnOfOtherKeys(version.path, others, console);
 }
 
-void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals)
+void CheckFolderForKeys(QString const& folder, std::set<QString> const& knownIds, RefusalList& refusals)
 {
-    KeySearch const search(std::move(knownIds));
+    KeySearch search(knownIds);
     std::error_code error;
     fs::recursive_directory_iterator entry(QFile::encodeName(folder).toStdString(),
                                            fs::directory_options::skip_permission_denied, error);
@@ -287,9 +333,7 @@ void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, Refus
         {
             RefuseReading(path, errno);
         }
-        // A small archive may contain the test key of a server.
-        bool const isText = content && content->find('\0') == std::string::npos;
-        if (content && ((isText && !MarkedKeys(*content).empty()) || search.Finds(*content)))
+        if (content && (HasMarkedKey(*content) || search.Finds(*content)))
         {
             refusals.Add({path, u"contains a private key, and everything in this folder is uploaded"_s,
                           u"move it to another folder; "_s + MEND_OF_PUBLISHED});

@@ -14,12 +14,12 @@ std::set<QString> KnownKeyIds(std::vector<GatedVersion> const& versions);
 
 /// Adds each file of \a bundle, up to 64 KiB, that contains a private key: raw, in base64, in hexadecimal or in PEM,
 /// alone or between other text. A seed alone counts if it is of a key of \a version or of \a knownIds: any 32 bytes
-/// could be one. Throws Refusal for a file that cannot be read.
+/// could be one. A private key in PEM for another use is only a warning. Throws Refusal for a file that cannot be read.
 void CheckPrivateKeys(BundleTree const& bundle, GatedVersion const& version, std::set<QString> knownIds,
-                      RefusalList& refusals);
+                      Console const& console, RefusalList& refusals);
 
 /// The same for the files of a folder that is uploaded, and below it. A private key in PEM counts there for any use.
 /// Hidden folders and what this user may not read are left out.
-void CheckFolderForKeys(QString const& folder, std::set<QString> knownIds, RefusalList& refusals);
+void CheckFolderForKeys(QString const& folder, std::set<QString> const& knownIds, RefusalList& refusals);
 
 } // namespace Pelnar::Publisher

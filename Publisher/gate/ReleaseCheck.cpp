@@ -190,7 +190,7 @@ private:
         if (bundle)
         {
             CheckBundleForClients(*bundle, version, m_versions, MachineFor(item), m_refusals);
-            CheckContent(*bundle, version, m_versions, m_refusals);
+            CheckContent(*bundle, version, m_versions, m_console, m_refusals);
             for (FeedItem const& recompressed : item.recompressed)
             {
                 m_refusals.Try([&] { CheckRecompressed(recompressed, item, *bundle); });

@@ -299,10 +299,10 @@ void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version
 }
 
 void CheckContent(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
-                  RefusalList& refusals)
+                  Console const& console, RefusalList& refusals)
 {
     CheckProgramFile(bundle, version, refusals);
-    CheckPrivateKeys(bundle, version, KnownKeyIds(all), refusals);
+    CheckPrivateKeys(bundle, version, KnownKeyIds(all), console, refusals);
 }
 
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)

@@ -14,9 +14,9 @@ void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version
                            Engine::Machine const& machine, RefusalList& refusals);
 
 /// What no client notices, but no publisher intends: private keys in the bundle of \a version, and a program that
-/// cannot start. Throws Refusal for a file that cannot be read.
+/// cannot start. \a console is warned of keys that sign no update. Throws Refusal for a file that cannot be read.
 void CheckContent(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
-                  RefusalList& refusals);
+                  Console const& console, RefusalList& refusals);
 
 /// Each version must trust a key that signs it. Clients of every older version must reach it: by a key that they trust,
 /// or through versions between that bring another key. A client without such a path never gets another update.

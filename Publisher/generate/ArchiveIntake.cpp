@@ -226,7 +226,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     item.trustedIds = version.trustedIds;
     BelieveStatement(version, m_feed.With({}));
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
-    CheckContent(bundle, version, m_versions, refusals);
+    CheckContent(bundle, version, m_versions, m_workplace.console, refusals);
     WarnOf(version);
     WarnOfSettings(information, version);
     item.machines = version.machines;
@@ -356,7 +356,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
     version.signerIds = m_workplace.KeyIds();
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
-    CheckContent(bundle, version, m_versions, refusals);
+    CheckContent(bundle, version, m_versions, m_workplace.console, refusals);
     item.machines = version.machines;
     m_versions.push_back(std::move(version));
 }

@@ -35,18 +35,18 @@ UpdateFault Judge(TrustedKeys const& keys, Ed25519SignatureBytes const& signatur
     return isSigned ? UpdateFault::None : UpdateFault::SignatureMismatch;
 }
 
-std::string IdOf(Ed25519Key const& key)
+} // namespace
+
+std::string KeyIdOf(Ed25519Key const& key)
 {
     ContentHash const hash = HashOf(View(key));
     return Hexadecimal(View(hash).substr(0, ID_BYTES));
 }
 
-} // namespace
-
 std::string KeyIdOf(std::string_view publicKey)
 {
     Ed25519Key key;
-    return ParsePublicKey(publicKey, key) == UpdateFault::None ? IdOf(key) : std::string();
+    return ParsePublicKey(publicKey, key) == UpdateFault::None ? KeyIdOf(key) : std::string();
 }
 
 bool IsKeyId(std::string_view text)
@@ -77,7 +77,7 @@ void TrustedKeys::Add(std::string const& text)
     if (fault == UpdateFault::None)
     {
         m_keys.push_back(key);
-        m_ids.push_back(IdOf(key));
+        m_ids.push_back(KeyIdOf(key));
     }
     bool const isFirst = m_texts.empty();
     m_texts.push_back(text);

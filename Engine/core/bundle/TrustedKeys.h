@@ -17,6 +17,8 @@ namespace Pelnar::Engine
 /// The short name of a key (docs/formats/item-keys.md): the first eight bytes of its SHA-256, as sixteen lower-case
 /// hexadecimal digits; empty for a text that is not a public key.
 [[nodiscard]] std::string KeyIdOf(std::string_view publicKey);
+/// The same for any bytes. This is much faster, because it does not check that they are a public key.
+[[nodiscard]] std::string KeyIdOf(Ed25519Key const& key);
 
 /// True if \a text has the form of a key's id.
 [[nodiscard]] bool IsKeyId(std::string_view text);

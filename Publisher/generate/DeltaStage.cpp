@@ -20,6 +20,21 @@ bool HasDeltaFrom(NewItem const& item, QString const& baseVersion)
                        { return WholeVersion(delta.baseVersion) == WholeVersion(baseVersion); });
 }
 
+/// Throws Refusal, which also says that the release needs no delta that cannot be read.
+Engine::DeltaManifest ReadGiven(Workplace const& place, QString const& fileName)
+{
+    try
+    {
+        return ReadDeltaFile(place.Open(fileName));
+    }
+    catch (Refusal const& refusal)
+    {
+        Problem problem = refusal.Reason();
+        problem.mend += u", or "_s + MEND_OF_DELTA;
+        throw Refusal(problem, RefusalCause::Content);
+    }
+}
+
 } // namespace
 
 void DeltaStage::AddTo(std::vector<NewItem>& items, DeltaChoice const& choice)
@@ -147,8 +162,7 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
             continue;
         }
         QString const path = m_workplace.PathOf(archive.fileName);
-        Engine::DeltaManifest manifest;
-        AsContent([&] { manifest = ReadDeltaFile(m_workplace.Open(archive.fileName)); });
+        Engine::DeltaManifest const manifest = ReadGiven(m_workplace, archive.fileName);
         QString const target = QString::fromStdString(manifest.targetVersion);
         QString const start = QString::fromStdString(manifest.baseVersion);
         bool hasTarget = false;

@@ -190,12 +190,12 @@ QStringList NamesIn(QString const& folder)
     return names;
 }
 
-void RefuseLink(QString const& path)
+void RefuseLink(QString const& path, QString const& otherMend = {})
 {
     if (QFileInfo(path).isSymLink())
     {
-        throw Refusal(
-            {path, u"is a link, which a web server may not follow"_s, u"put the file itself into the folder"_s});
+        throw Refusal({path, u"is a link, which a web server may not follow"_s,
+                       u"put the file itself into the folder"_s + otherMend});
     }
 }
 
@@ -220,7 +220,8 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
         std::optional<FolderArchive> archive = Classify(name);
         if (archive && !QFileInfo(PathIn(folder, name)).isDir())
         {
-            RefuseLink(PathIn(folder, name));
+            bool const isDelta = archive->kind == ArchiveKind::Delta;
+            RefuseLink(PathIn(folder, name), isDelta ? u", or "_s + MEND_OF_DELTA : QString());
             archives.push_back(std::move(*archive));
         }
     }

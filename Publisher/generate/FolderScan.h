@@ -2,6 +2,7 @@
 // their notes.
 #pragma once
 
+#include "Publisher/TextLiterals.h"
 #include "Publisher/files/InputFile.h"
 
 #include <QString>
@@ -27,6 +28,9 @@ struct FolderArchive
     ArchiveKind kind = ArchiveKind::Bundle;
     bool isNamedAsContainer = false; ///< has the ending of a zip or a tar, for any kind
 };
+
+/// For a delta that cannot be used.
+inline QString const MEND_OF_DELTA = u"remove it: generate makes the delta again if it is needed"_s;
 
 /// The archives of \a folder, sorted by name; hidden files are ignored. Throws Refusal for a folder that cannot be
 /// read, and for a link with the name of an archive.

@@ -13,6 +13,11 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <map>
+
+#include <unistd.h>
 
 namespace Pelnar::Testing
 {
@@ -262,6 +267,52 @@ TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
     EXPECT_NE(run.err.find("given.delta: does not make the bundle in the archive of that version"), std::string::npos)
         << run.err;
     EXPECT_FALSE(QFile::exists(folder.PathOf("appcast.xml")));
+}
+
+TEST(Generate, DeltaThatCannotBeReadIsNamedAsDispensable)
+{
+    constexpr unsigned NOBODY = 65534;
+    std::string const name = "Test-1.0-2.0.delta";
+    std::string const mend = ", or remove it: generate makes the delta again if it is needed";
+    std::map<std::string, std::function<void(std::string const&)>> const accidents{
+        {"cannot be read: Permission denied; check the name and the file's permissions" + mend,
+         [](std::string const& path)
+         {
+             Testing::WriteFile(path, "any");
+             std::filesystem::permissions(path, std::filesystem::perms::none);
+         }},
+        {"is not a delta in a known format; make one with \"delta create\"" + mend,
+         [](std::string const& path) { Testing::WriteFile(path, ""); }},
+        {"is a link, which a web server may not follow; put the file itself into the folder" + mend,
+         [](std::string const& path) { std::filesystem::create_symlink("/nowhere", path); }},
+        {"exists already; remove it", [](std::string const& path) { std::filesystem::create_directory(path); }},
+    };
+    for (auto const& [told, put] : accidents)
+    {
+        PublisherFolder const folder;
+        folder.PutVersion("1.0");
+        folder.PutVersion("2.0");
+        std::string const path = folder.Path() + '/' + name;
+        put(path);
+        // The administrator may read every file, so the run uses another user.
+        bool const isAdministrator = ::geteuid() == 0;
+        if (isAdministrator)
+        {
+            folder.GiveTo(NOBODY);
+            ASSERT_EQ(::seteuid(NOBODY), 0);
+        }
+        ToolRun const run = folder.Generate();
+        ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
+        EXPECT_NE(run.status, 0);
+        EXPECT_EQ(run.err, "error: " + path + ": " + told + '\n');
+        std::filesystem::remove(path);
+        if (isAdministrator)
+        {
+            folder.GiveTo(0);
+        }
+        folder.GeneratedFeed();
+        EXPECT_EQ(folder.Items()[0].deltas.size(), 1u);
+    }
 }
 
 TEST(Generate, DeltaWithoutItsBaseOrItemIsLeftOutAndReported)

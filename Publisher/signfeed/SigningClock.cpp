@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace Pelnar::Publisher
 {
@@ -28,14 +29,15 @@ QString MomentText(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
 }
 
-/// The newest date of an item; 0 without one.
-qint64 NewestDate(Engine::FeedContent const& content)
+/// The newest date of an item, not after \a last; 0 without one.
+qint64 NewestDate(Engine::FeedContent const& content, qint64 last)
 {
     qint64 newest = 0;
     for (Engine::FeedItem const& item : content.items)
     {
         QDateTime const date = Engine::FeedTime(item.dateString);
-        newest = std::max(newest, date.isValid() ? date.toSecsSinceEpoch() : 0);
+        qint64 const seconds = date.isValid() ? date.toSecsSinceEpoch() : 0;
+        newest = seconds <= last ? std::max(newest, seconds) : newest;
     }
     return newest;
 }
@@ -64,8 +66,8 @@ void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSer
     if (signedAt > now + A_DAY)
     {
         RefuseClock(name, u"was signed at %1 according to its serial"_s.arg(MomentText(signedAt)), now,
-                    u"set the clock; if it is right, give --serial %1, and a greater one each time until then"_s.arg(
-                        serials.published + 1));
+                    u"set the clock; if it is right, and nobody has got this feed yet, put the previous one back; "
+                    "otherwise add --serial %1, and a greater one each time until then"_s.arg(serials.published + 1));
     }
     qint64 const changedAt = QFileInfo(name).lastModified().toSecsSinceEpoch();
     if (QFileInfo::exists(name) && changedAt > now + A_DAY)
@@ -73,8 +75,8 @@ void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSer
         RefuseClock(name, u"was changed at %1"_s.arg(MomentText(changedAt)), now,
                     u"set the clock; if it is right, use touch on the file"_s);
     }
-    QString const vouch = u"if it is right, give --serial %1"_s.arg(std::max(serials.published + 1, now));
-    qint64 const newest = NewestDate(content);
+    QString const vouch = u"if it is right, add --serial %1 this time"_s.arg(std::max(serials.published + 1, now));
+    qint64 const newest = NewestDate(content, std::numeric_limits<qint64>::max());
     if (newest > now + A_YEAR)
     {
         RefuseClock(name, u"has an item of %1"_s.arg(MomentText(newest)), now,
@@ -84,12 +86,15 @@ void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSer
     {
         RefuseClock(name, u"was last signed at %1"_s.arg(MomentText(signedAt)), now, u"set the clock; "_s + vouch);
     }
-    if (signedAt == 0 && newest > 0 && now > newest + A_YEAR)
+    // This run may have dated the newest items, with the same clock.
+    qint64 const before = NewestDate(content, now - A_DAY);
+    if (signedAt == 0 && before > 0 && now > before + A_YEAR)
     {
-        console.Warn(
-            {name,
-             u"has no item after %1, but this computer's clock says %2"_s.arg(MomentText(newest), MomentText(now)),
-             u"check the clock: if it is ahead, later feeds need a --serial until then"_s});
+        console.Warn({name,
+                      u"has no item between %1 and %2, where this computer's clock is"_s.arg(MomentText(before),
+                                                                                             MomentText(now)),
+                      u"check the clock before you upload the feed: clients that get it refuse every lower serial from "
+                      "then on; if the clock is ahead, set it, put the previous feed back, and sign that"_s});
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QFile>
 
 namespace Pelnar::Testing
@@ -62,6 +63,23 @@ TEST(SignedGenerate, SignedFeedStaysSignedWhenItGrows)
     EXPECT_TRUE(IsBelieved(after)) << after;
     EXPECT_GT(SerialOf(after), SerialOf(before));
     EXPECT_EQ(folder.Items().size(), 2u);
+}
+
+TEST(SignedGenerate, FirstSignatureIsComparedWithTheItemsBeforeThisRun)
+{
+    for (int const days : {300, 400})
+    {
+        PublisherFolder const folder;
+        qint64 const now = QDateTime::currentSecsSinceEpoch();
+        qputenv("SOURCE_DATE_EPOCH", QByteArray::number(now - qint64(days) * 86400));
+        folder.PutVersion("5.0");
+        folder.GeneratedFeed();
+        qputenv("SOURCE_DATE_EPOCH", QByteArray::number(now));
+        folder.PutVersion("5.1", 2);
+        ToolRun const run = folder.Generate(SIGNING);
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.err.find("appcast.xml: has no item between ") != std::string::npos, days == 400) << run.err;
+    }
 }
 
 TEST(SignedGenerate, FeedThatWasChangedSinceIsNotAddedTo)

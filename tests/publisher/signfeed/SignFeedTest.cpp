@@ -175,7 +175,7 @@ TEST_F(SignFeedTest, ClockThatIsFarAheadIsTold)
     ExpectRefused(run, "was last signed at ", feed);
     // The error says how to go on, and the next run needs nothing more.
     QRegularExpressionMatch const serial =
-        QRegularExpression(Regular("set the clock; if it is right, give (--serial) ([0-9]+)\n"))
+        QRegularExpression(Regular("set the clock; if it is right, add (--serial) ([0-9]+) this time\n"))
             .match(QString::fromStdString(run.err));
     ASSERT_TRUE(serial.hasMatch()) << run.err;
     EXPECT_EQ(Run({serial.captured(1), serial.captured(2)}).status, 0);
@@ -191,8 +191,9 @@ TEST_F(SignFeedTest, FirstSignatureLongAfterTheNewestItemIsDoubted)
         Put(QByteArray(PLAIN).replace("<item/>", "<item><pubDate>" + date + "</pubDate></item>"));
         ToolRun const run = Run();
         EXPECT_EQ(run.status, 0);
-        EXPECT_EQ(run.err.find("feed.xml: has no item after ") != std::string::npos, days == 400) << run.err;
-        EXPECT_EQ(run.err.find("; check the clock: ") != std::string::npos, days == 400) << run.err;
+        EXPECT_EQ(run.err.find("feed.xml: has no item between ") != std::string::npos, days == 400) << run.err;
+        EXPECT_EQ(run.err.find("; check the clock before you upload the feed: ") != std::string::npos, days == 400)
+            << run.err;
         EXPECT_EQ(Run().err, "") << "the signature has a date now";
     }
 }
@@ -246,10 +247,12 @@ TEST(SigningClock, IsComparedWithTheTimesOfTheFeed)
     EXPECT_EQ(ToldOfClock(NOW, NOW + A_DAY, false), "");
     EXPECT_EQ(ToldOfClock(NOW, NOW - 366 * A_DAY, false), "");
     std::string const behind = ToldOfClock(NOW, NOW + A_DAY + 1, false);
-    EXPECT_NE(behind.find("give --serial 1800086402, and a greater one each time until then"), std::string::npos)
+    EXPECT_NE(behind.find("nobody has got this feed yet, put the previous one back; otherwise add --serial 1800086402, "
+                          "and a greater one each time until then"),
+              std::string::npos)
         << behind;
     std::string const ahead = ToldOfClock(NOW, NOW - 366 * A_DAY - 1, false);
-    EXPECT_NE(ahead.find("give --serial 1800000000"), std::string::npos) << ahead;
+    EXPECT_NE(ahead.find("; if it is right, add --serial 1800000000 this time"), std::string::npos) << ahead;
     EXPECT_EQ(ToldOfClock(NOW, NOW + A_DAY + 1, true) + ToldOfClock(NOW, NOW - 366 * A_DAY - 1, true), "");
 }
 

@@ -5,6 +5,7 @@
 #include "Publisher/choice/ClientInstallation.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
@@ -55,8 +56,15 @@ std::vector<EditedItem const*> FeedEdit::ItemsOf(QString const& version) const
     }
     if (items.empty())
     {
+        QStringList versions;
+        std::transform(m_items.begin(), m_items.end(), std::back_inserter(versions),
+                       [](EditedItem const& item) { return item.item.versionString; });
+        versions.removeDuplicates();
+        constexpr int MOST_NAMED = 10;
         throw Refusal({m_name, u"has no item with the version \"%1\""_s.arg(version),
-                       u"pelnar-appcast matrix shows the versions of a feed"_s});
+                       versions.isEmpty()
+                           ? u"add versions with \"generate\" first"_s
+                           : u"give a version that it has, such as "_s + versions.mid(0, MOST_NAMED).join(u", "_s)});
     }
     return items;
 }

@@ -128,7 +128,8 @@ void CheckFeedSignature(GatedVersion const& version, FeedSignature signature)
     if (version.bundle && version.bundle->requiresSignedFeed && signature == FeedSignature::Missing)
     {
         throw Refusal({version.path, u"its clients require a signed feed and would refuse this one"_s,
-                       u"sign the feed with a key that they trust: use generate --sign-feed, or sign-feed"_s},
+                       u"sign the feed with a key that they trust: use generate --sign-feed, or sign-feed; during a "
+                       "change of keys, generate with the old key as --key and the new one as --second-key"_s},
                       RefusalCause::Content);
     }
 }

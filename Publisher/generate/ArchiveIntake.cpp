@@ -109,7 +109,7 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
     CheckTrust(m_versions, refusals);
     for (GatedVersion const& version : m_versions)
     {
-        refusals.Try([&] { CheckFeedSignature(version, m_signature); });
+        refusals.Try([&] { CheckFeedSignature(version, SignatureFor(version)); });
     }
     if (!refusals.IsEmpty())
     {
@@ -173,6 +173,13 @@ void ArchiveIntake::CheckMachines(RefusalList& refusals)
             JudgeAgain(version, m_versions, MainMachine(), refusals);
         }
     }
+}
+
+FeedSignature ArchiveIntake::SignatureFor(GatedVersion const& version) const
+{
+    Engine::TrustedKeys const keys = version.bundle ? version.bundle->clientKeys : Engine::TrustedKeys();
+    bool const isKnown = !keys.Texts().empty();
+    return isKnown && !keys.HasId(m_workplace.KeyId().toStdString()) ? FeedSignature::Missing : m_signature;
 }
 
 bool ArchiveIntake::IsNew(GatedVersion const& version) const

@@ -39,6 +39,8 @@ private:
     void CheckAmongEachOther(RefusalList& refusals);
     void JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
                     Engine::Machine const& machine, RefusalList& refusals) const;
+    /// As the clients of \a version see the feed: it is signed by the first key alone.
+    [[nodiscard]] FeedSignature SignatureFor(GatedVersion const& version) const;
     [[nodiscard]] bool IsNew(GatedVersion const& version) const;
     Engine::Machine MainMachine() const;
     Engine::Machine MachineFor(GatedVersion const& version) const;

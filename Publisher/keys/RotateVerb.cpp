@@ -69,7 +69,8 @@ class Guide
 public:
     explicit Guide(Console const& console) : m_console(console) {}
 
-    void Step(QString const& what, QStringList const& doneBy, QStringList const& waitsFor, QString const& more = {})
+    void Step(QString const& what, QStringList const& doneBy, QStringList const& waitsFor,
+              QStringList const& hints = {})
     {
         bool const isDone = !doneBy.isEmpty();
         bool const isNext = !isDone && !m_hasNext;
@@ -82,9 +83,9 @@ public:
             m_console.Print(u"   these versions must be gone first, because they trust only the old key: "_s +
                             NamesOf(waitsFor));
         }
-        if (!isDone && !more.isEmpty())
+        for (QString const& hint : isDone ? QStringList() : hints)
         {
-            m_console.Print(u"   "_s + more);
+            m_console.Print(u"   "_s + hint);
         }
     }
 
@@ -98,12 +99,19 @@ void Print(RotationState const& state, Console const& console)
 {
     Guide guide(console);
     guide.Step(u"publish a version that is signed with the old key and whose bundle trusts both keys"_s, state.bridges,
-               {}, u"the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"_s);
-    guide.Step(
-        u"sign the next version with the new key; its bundle still trusts both keys"_s, state.byNewKey, {},
-        state.onlyOld.isEmpty() || state.bridges.isEmpty()
-            ? QString()
-            : u"%1 take %2 first, which stays in the feed"_s.arg(NamesOf(state.onlyOld), NamesOf(state.bridges)));
+               {}, {u"the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"_s});
+    QStringList hints;
+    if (!state.onlyOld.isEmpty() && !state.bridges.isEmpty())
+    {
+        hints.append(
+            u"%1 take %2 first, which stays in the feed"_s.arg(NamesOf(state.onlyOld), NamesOf(state.bridges)));
+    }
+    if (state.isFeedSigned && !state.isFeedByNewKey)
+    {
+        hints.append(u"the old key still signs the feed: generate --key OLD --second-key NEW"_s);
+    }
+    guide.Step(u"sign the next version with the new key; its bundle still trusts both keys"_s, state.byNewKey, {},
+               hints);
     if (state.isFeedSigned)
     {
         guide.Step(u"sign the feed with the new key"_s,
@@ -140,14 +148,12 @@ void AddRotate(CLI::App& keys, VerbContext& context)
         "must be gone before it",
         Rotate);
     AddFeedOption(verb, options.feed);
-    verb.add_option("--from", options.oldKey, "The old public key, which signs until now, in base64")
+    verb.add_option("--from", options.oldKey,
+                    "The old public key, which signs until now, as \"keys show --format bare\" prints it")
         ->required()
         ->type_name("KEY")
         ->check(FaultOfKey);
-    verb.add_option("--to", options.newKey, "The new public key, in base64")
-        ->required()
-        ->type_name("KEY")
-        ->check(FaultOfKey);
+    verb.add_option("--to", options.newKey, "The new public key")->required()->type_name("KEY")->check(FaultOfKey);
     AddPlatformOption(verb, options.platform);
 }
 

@@ -225,7 +225,7 @@ void SigningKey::Save(QString const& path) const
     }
     if (!file)
     {
-        RefuseFile(path, u"cannot be made"_s, errno, u"check the folder"_s);
+        RefuseFile(path, u"cannot be made"_s, errno, u"check that the folder exists, and that you may write to it"_s);
     }
     SecretBytes const text = SecretText(KeyForm::Seed);
     bool const isWritten = ::fchmod(file.Get(), 0600) == 0 &&

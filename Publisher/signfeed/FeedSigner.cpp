@@ -169,7 +169,8 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
                        u"was changed after it was signed, or was signed by another key"_s,
-                       u"check the changes, and use sign-feed --accept-changes if they are right"_s});
+                       u"give the key that signed it (during a change of keys, the new one is --second-key of "
+                       "generate); or check the changes, and use sign-feed --accept-changes if they are right"_s});
     }
     return {bytes.left(feed.contentBytes), true};
 }

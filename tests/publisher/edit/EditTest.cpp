@@ -139,13 +139,15 @@ TEST_F(EditTest, DryRunWritesNothing)
 
 TEST_F(EditTest, VersionThatIsNotThereIsRefused)
 {
-    QByteArray const feed = FeedWith(Item("5.2"));
+    QByteArray const feed = FeedWith(Item("5.2") + Item("5.1"));
     Write("appcast.xml", feed);
     for (char const* const verb : {"promote", "withdraw"})
     {
         ToolRun const run = Run(verb, {QStringLiteral("5.3")});
         EXPECT_EQ(run.status, 2);
-        EXPECT_NE(run.err.find("has no item with the version \"5.3\""), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("has no item with the version \"5.3\"; give a version that it has, such as 5.2, 5.1\n"),
+                  std::string::npos)
+            << run.err;
     }
     EXPECT_EQ(Feed(), feed.toStdString());
 }

@@ -216,6 +216,38 @@ TEST_F(Accident, FeedIsUnsignedAlthoughClientsOfAVersionRequireASignature)
     ExpectRefused(Generate(), {"Test-2.0.zip: its clients require a signed feed"});
 }
 
+TEST_F(Accident, FeedIsSignedByAKeyThatClientsOfAnOlderVersionDoNotTrust)
+{
+    std::string const newKey = MakeKeyPair(9).publicKey;
+    BundleText text = Version("1.0");
+    text.requiresSignedFeed = "YES";
+    m_folder.PutBundle(text);
+    m_folder.GeneratedFeed({QStringLiteral("--sign-feed")});
+    text.version = "1.1";
+    text.nextKey = newKey;
+    m_folder.PutBundle(text);
+    Publish();
+    text.version = "1.2";
+    m_folder.PutBundle(text);
+    ToolRun run = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("was signed by another key; give the key that signed it (during a change of keys, the new "
+                           "one is --second-key of generate)"),
+              std::string::npos)
+        << run.err;
+    std::string const feed = m_folder.ContentOf("appcast.xml");
+    m_folder.Put("appcast.xml", feed.substr(0, feed.rfind("<!--")));
+    Remember();
+    ExpectRefused(m_folder.GenerateWithKey(9, {QStringLiteral("--sign-feed")}),
+                  {"Test-1.0.zip: its clients require a signed feed and would refuse this one; sign the feed with a "
+                   "key that they trust",
+                   "generate with the old key as --key and the new one as --second-key"});
+    // Nobody runs the oldest version any more.
+    m_folder.Remove("Test-1.0.zip");
+    run = m_folder.GenerateWithKey(9, {QStringLiteral("--sign-feed")});
+    EXPECT_EQ(run.status, 0) << run.err;
+}
+
 TEST_F(Accident, NoSignatureIsAskedForByNoOrByABundleForMacOS)
 {
     BundleText text = Version("1.0");

@@ -192,6 +192,12 @@ TEST_F(KeyChange, SignedFeedChangesItsKeyWhenTheOldVersionsAreGone)
         std::string::npos)
         << text;
     EXPECT_NE(text.find("4. later: "), std::string::npos) << text;
+    PutFeed(Item("5.10", 7, {7, 8}) + Item("5.9", 7, {7}));
+    EXPECT_EQ(SignFeed(7, State({QStringLiteral("--valid"), Text(KeyOf(7))}).out).status, 0);
+    EXPECT_NE(Rotate().find("   5.9 take 5.10 first, which stays in the feed\n"
+                            "   the old key still signs the feed: generate --key OLD --second-key NEW\n"),
+              std::string::npos)
+        << Rotate();
 }
 
 } // namespace Pelnar::Testing

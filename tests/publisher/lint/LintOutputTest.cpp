@@ -103,9 +103,9 @@ TEST(LintOutput, BadArgumentsAreRefused)
     ToolRun const key =
         RunTool(Line({QStringLiteral("--fetch"), QStringLiteral("--public-key"), QStringLiteral("AAAA")}));
     EXPECT_EQ(key.status, 2);
-    EXPECT_EQ(key.err,
-              "error: --public-key: \"AAAA\" is not an Ed25519 key, which has 32 bytes in base64; see pelnar-appcast "
-              "lint --help\n");
+    EXPECT_EQ(key.err, "error: --public-key: \"AAAA\" is not a public key as \"keys show --format bare\" prints it: 32 "
+                       "bytes in base64; see pelnar-appcast "
+                       "lint --help\n");
     ToolRun const root = RunTool(Line({QStringLiteral("--root-public-key"), QStringLiteral("AAAA")}));
     EXPECT_EQ(root.status, 2);
     EXPECT_EQ(root.err.find("error: --root-public-key: \"AAAA\" is not"), 0u) << root.err;

@@ -1,5 +1,6 @@
 #include "Publisher/Refusal.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -45,7 +46,12 @@ bool RefusalList::Try(std::function<void()> const& work)
 
 void RefusalList::Add(Problem problem, RefusalCause cause)
 {
-    m_problems.push_back(std::move(problem));
+    bool const isKnown = std::any_of(m_problems.begin(), m_problems.end(),
+                                     [&problem](Problem const& other) { return TextOf(other) == TextOf(problem); });
+    if (!isKnown)
+    {
+        m_problems.push_back(std::move(problem));
+    }
     m_cause = cause == RefusalCause::Content ? cause : m_cause;
 }
 

@@ -45,6 +45,7 @@ class RefusalList
 public:
     /// Runs \a work and keeps the Refusal that it throws. Returns true if it throws none.
     bool Try(std::function<void()> const& work);
+    /// A problem that is known already is not repeated.
     void Add(Problem problem, RefusalCause cause = RefusalCause::Content);
     [[nodiscard]] bool IsEmpty() const { return m_problems.empty(); }
     /// Throws one Refusal for all problems. Its cause is Content if one of them has that cause.

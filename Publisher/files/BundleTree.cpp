@@ -255,7 +255,9 @@ void BundleTree::ReadInformation()
     }
     catch (Engine::UpdateRefusal const& refusal)
     {
-        throw Refusal(ProblemOf(refusal, shownPath), CauseOf(refusal.Fault()));
+        Problem problem = ProblemOf(refusal, shownPath);
+        problem.line = Engine::FaultLineOfPropertyList({text.constData(), static_cast<std::size_t>(text.size())});
+        throw Refusal(problem, CauseOf(refusal.Fault()));
     }
 }
 

@@ -155,4 +155,15 @@ TEST(PropertyList, LimitsHold)
     EXPECT_FALSE(ParsePropertyList("{" + keys + "k=v;}").has_value());
 }
 
+TEST(PropertyList, LineOfItsFaultIsFound)
+{
+    EXPECT_EQ(FaultLineOfPropertyList("{\n  a = b;\n  c = d=e;\n}\n"), 3);
+    EXPECT_EQ(FaultLineOfPropertyList("{\n  a = b\n  c = d;\n}\n"), 3) << "the semicolon is missing";
+    EXPECT_EQ(FaultLineOfPropertyList("{\n  a = b;\n  a = c;\n}\n"), 3) << "twice";
+    EXPECT_EQ(FaultLineOfPropertyList("{\n  a = b;\n"), 3);
+    EXPECT_EQ(FaultLineOfPropertyList("<plist>\n<dict>\n<key>a</key>\n</dict>\n</plist>\n"), 4);
+    EXPECT_EQ(FaultLineOfPropertyList("{ a = b; }"), 0);
+    EXPECT_EQ(FaultLineOfPropertyList("{\n\xff\n}"), 0);
+}
+
 } // namespace

@@ -76,33 +76,51 @@ bool AppendCodePoint(std::string& text, unsigned long codePoint)
     return true;
 }
 
-std::optional<PropertyListValue> ParsePropertyList(std::string_view text)
+namespace
 {
-    if (text.size() > PROPERTY_LIST_MAX_BYTES || text.find('\0') != std::string_view::npos ||
-        u8_check(reinterpret_cast<std::uint8_t const*>(text.data()), text.size()) != nullptr)
-    {
-        return std::nullopt;
-    }
-    PropertyListCursor cursor(text);
-    PropertyListValue value;
+
+[[nodiscard]] bool IsReadable(std::string_view text)
+{
+    return text.size() <= PROPERTY_LIST_MAX_BYTES && text.find('\0') == std::string_view::npos &&
+           u8_check(reinterpret_cast<std::uint8_t const*>(text.data()), text.size()) == nullptr;
+}
+
+/// Consumes the whole text, or stops at its fault.
+[[nodiscard]] bool Read(PropertyListCursor& cursor, PropertyListValue& value)
+{
     cursor.SkipBlanks();
     if (cursor.Next() == '<')
     {
-        if (!ReadXmlPropertyList(cursor, value))
-        {
-            return std::nullopt;
-        }
+        return ReadXmlPropertyList(cursor, value) && cursor.IsAtEnd();
     }
-    else
+    SkipOldStyleBlanks(cursor);
+    if (!ReadOldStyleValue(cursor, 1, value))
     {
-        SkipOldStyleBlanks(cursor);
-        if (!ReadOldStyleValue(cursor, 1, value))
-        {
-            return std::nullopt;
-        }
-        SkipOldStyleBlanks(cursor);
+        return false;
     }
-    return cursor.IsAtEnd() ? std::optional(std::move(value)) : std::nullopt;
+    SkipOldStyleBlanks(cursor);
+    return cursor.IsAtEnd();
+}
+
+} // namespace
+
+std::optional<PropertyListValue> ParsePropertyList(std::string_view text)
+{
+    PropertyListCursor cursor(text);
+    PropertyListValue value;
+    return IsReadable(text) && Read(cursor, value) ? std::optional(std::move(value)) : std::nullopt;
+}
+
+int FaultLineOfPropertyList(std::string_view text)
+{
+    PropertyListCursor cursor(text);
+    PropertyListValue value;
+    if (!IsReadable(text) || Read(cursor, value))
+    {
+        return 0;
+    }
+    std::string_view const read = text.substr(0, text.size() - cursor.Left());
+    return 1 + int(std::count(read.begin(), read.end(), '\n'));
 }
 
 } // namespace Pelnar::Engine

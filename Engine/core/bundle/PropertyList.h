@@ -36,4 +36,7 @@ constexpr std::size_t PROPERTY_LIST_MAX_KEYS = 4096; ///< in one dictionary
 /// byte to its last.
 std::optional<PropertyListValue> ParsePropertyList(std::string_view text);
 
+/// The line, from 1, at which \a text stops being a property list; 0 if another rule is broken.
+int FaultLineOfPropertyList(std::string_view text);
+
 } // namespace Pelnar::Engine

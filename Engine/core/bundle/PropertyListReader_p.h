@@ -22,6 +22,8 @@ public:
     /// Consumes everything before \a mark and the mark itself; empty if the mark does not appear.
     std::optional<std::string_view> TakeUntil(std::string_view mark);
     void SkipBlanks();
+    /// The bytes that are not consumed yet.
+    std::size_t Left() const { return m_rest.size(); }
 
 private:
     std::string_view m_rest;

@@ -105,6 +105,14 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("Test.zip", MakeArchive(Container::Zip, {{"Test.app/Contents/Info.plist", 'f', "bplist00"}}));
          },
          "Contents/Info.plist: the bundle's information file is not a property list in text form"},
+        {"mistake in the information file",
+         [](auto const& folder)
+         {
+             std::string const list = "{\n  CFBundleVersion = \"1.0\";\n  SUPublicEDKey = a=b;\n}\n";
+             folder.Put("Test.zip",
+                        MakeArchive(Container::Zip, {{"Test.app/Resources/Info-gnustep.plist", 'f', list}}));
+         },
+         "Test.zip/Resources/Info-gnustep.plist:3: the bundle's information file is not a property list"},
         {"malformed version", Bundle([](BundleText& text) { text.version = "2.0b1"; }), "\"2.0b1\" is not a version"},
         {"version that overflows", Bundle([](BundleText& text) { text.version = "2147483648"; }), "is not a version"},
         {"no version", Bundle([](BundleText& text) { text.version.clear(); }), "\"\" is not a version"},
@@ -291,6 +299,26 @@ TEST(GenerateRefusal, NotesThatMayNotBeRead)
     ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.err.find("Test-2.0.txt: cannot be read: Permission denied"), std::string::npos) << run.err;
+}
+
+TEST(GenerateRefusal, PublishedArchiveThatMayNotBeReadIsToldOnce)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.GeneratedFeed();
+    folder.PutVersion("2.0");
+    std::string const archive = folder.PathOf("Test-1.0.zip").toStdString();
+    ASSERT_EQ(::chmod(archive.c_str(), 0), 0);
+    bool const isAdministrator = ::geteuid() == 0;
+    if (isAdministrator)
+    {
+        folder.GiveTo(NOBODY);
+        ASSERT_EQ(::seteuid(NOBODY), 0);
+    }
+    ToolRun const run = folder.Generate();
+    ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
+    EXPECT_EQ(run.err,
+              "error: " + archive + ": cannot be read: Permission denied; check the name and the file's permissions\n");
 }
 
 TEST(GenerateRefusal, PublishedArchiveOfAnotherSizeKeepsTheFeed)

@@ -84,6 +84,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     // On macOS another framework fetches the feed.
     version.bundle->requiresSignedFeed =
         information.requiresSignedFeed && version.HasClients() && version.platform == Engine::FeedPlatform::Linux;
+    version.bundle->hasFeedAddress = !information.feedUrl.empty();
     version.bundle->maximumFeedBytes = MaximumFeedBytesOf(information);
     // With a root key, the feed's key statement says which keys clients trust, and it can change.
     if (information.rootPublicKey.empty())

@@ -25,6 +25,7 @@ struct GatedBundle
     std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement declares valid
     Engine::TrustedKeys clientKeys = {};     ///< those that its clients believe
     bool requiresSignedFeed = false;
+    bool hasFeedAddress = false;
     qint64 maximumFeedBytes = 0; ///< that its clients read
 };
 

@@ -254,17 +254,30 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
                              version.versionText, newer->versionText),
                          u"give it a greater version, unless it is for clients that cannot take the newer one"_s);
     }
-    auto const rooted =
-        std::find_if(m_versions.begin(), m_versions.end(),
-                     [&](GatedVersion const& other)
-                     { return other.bundle && !other.bundle->rootKey.empty() && IsOffered(version, other); });
-    if (rooted != m_versions.end() && version.bundle->rootKey.empty())
+    WarnOfLoss(
+        version, [](GatedBundle const& bundle) { return !bundle.rootKey.empty(); },
+        u"has no root key, although version %1 has one; no key statement can protect its clients from a stolen key"_s,
+        u"PelnarRootPublicEDKey"_s);
+    WarnOfLoss(
+        version, [](GatedBundle const& bundle) { return bundle.requiresSignedFeed; },
+        u"does not require a signed feed, although version %1 does; its clients accept forged and outdated feeds"_s,
+        u"PelnarRequiresSignedFeed = YES"_s);
+    WarnOfLoss(
+        version, [](GatedBundle const& bundle) { return bundle.hasFeedAddress; },
+        u"has no SUFeedURL, although version %1 has one; its clients find no update unless the application says where"_s,
+        u"SUFeedURL"_s);
+}
+
+void ArchiveIntake::WarnOfLoss(GatedVersion const& version, bool (*has)(GatedBundle const&), QString const& what,
+                               QString const& entry) const
+{
+    auto const older = std::find_if(m_versions.begin(), m_versions.end(),
+                                    [&](GatedVersion const& other)
+                                    { return other.bundle && has(*other.bundle) && IsOffered(version, other); });
+    if (older != m_versions.end() && !has(*version.bundle))
     {
-        m_workplace.Warn(
-            version.path,
-            u"has no root key, although version %1 has one; no key statement can protect its clients from a stolen key"_s
-                .arg(rooted->versionText),
-            u"write PelnarRootPublicEDKey into the bundle's information file"_s);
+        m_workplace.Warn(version.path, what.arg(older->versionText),
+                         u"write %1 into the bundle's information file"_s.arg(entry));
     }
 }
 

@@ -32,6 +32,9 @@ private:
     void TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals);
     void CheckProduct(Engine::BundleInformation const& information, QString const& path);
     void WarnOf(GatedVersion const& version) const;
+    /// Warns if an older version \a has something and \a version does not.
+    void WarnOfLoss(GatedVersion const& version, bool (*has)(GatedBundle const&), QString const& what,
+                    QString const& entry) const;
     void WarnOfSettings(Engine::BundleInformation const& information, GatedVersion const& version) const;
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;

@@ -282,6 +282,23 @@ TEST_F(Accident, BundleWhoseClientsNeverCheckAgainIsTold)
     EXPECT_EQ(run.err.find("feed address"), std::string::npos) << run.err;
 }
 
+TEST_F(Accident, NewVersionForgetsTheFeedsAddressOrItsSignature)
+{
+    BundleText text = Version("1.0");
+    text.feedUrl = "https://updates.example.com/appcast.xml";
+    text.requiresSignedFeed = "YES";
+    m_folder.PutBundle(text);
+    EXPECT_EQ(m_folder.Generate({QStringLiteral("--sign-feed")}).err, "");
+    m_folder.PutVersion("2.0");
+    ToolRun const run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: does not require a signed feed, although version 1.0 does"),
+              std::string::npos)
+        << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: has no SUFeedURL, although version 1.0 has one"), std::string::npos)
+        << run.err;
+}
+
 TEST_F(Accident, NewVersionForgetsTheRootKeyOrIsOlder)
 {
     BundleText text = Version("1.0");

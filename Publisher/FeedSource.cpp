@@ -101,6 +101,10 @@ FeedBytes ReadFeed(QString const& name, QString const& publishedAt, Console cons
                        u"give the feed's whole address, such as https://updates.example.com/appcast.xml"_s});
     }
     QUrl const place = IsAddress(name) ? QUrl(name) : QUrl::fromLocalFile(QFileInfo(name).absoluteFilePath());
+    if (name != "-"_l && place.isLocalFile())
+    {
+        static_cast<void>(Exists(place.toLocalFile())); // a folder that may not be entered does not say what is missing
+    }
     FeedBytes feed = name == "-"_l ? ReadStandardInput(console) : Fetch(name, place);
     feed.address = publishedAt.isEmpty() ? feed.address : address;
     return feed;

@@ -77,7 +77,8 @@ void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::stri
 std::string FaultOfKey(std::string const& text)
 {
     bool const isGood = text.empty() || !Engine::KeyIdOf(text).empty(); // another check refuses every empty value
-    return isGood ? std::string() : '"' + text + "\" is not a public key as \"keys show --format bare\" prints it: 32 bytes in base64";
+    return isGood ? std::string()
+                  : '"' + text + "\" is not a public key as \"keys show --format bare\" prints it: 32 bytes in base64";
 }
 
 CLI::Option& AddKeysOption(CLI::App& verb, char const* name, std::vector<std::string>& keys,

@@ -257,12 +257,13 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile)
 {
     QStringList ignored;
+    bool const hasFeed = QFileInfo::exists(feedFile); // two missing files count as equal
     VisitEntries(folder,
                  [&](std::filesystem::directory_entry const& entry)
                  {
                      QString const name = QFile::decodeName(entry.path().filename().c_str());
                      bool const isKnown = name.startsWith(u'.') ||
-                                          QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
+                                          (hasFeed && QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile)) ||
                                           std::any_of(archives.begin(), archives.end(),
                                                       [&](FolderArchive const& each)
                                                       { return each.fileName == name || NotesOf(name, each.stem); });

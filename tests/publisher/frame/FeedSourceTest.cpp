@@ -9,9 +9,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <sstream>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Pelnar::Publisher
 {
@@ -94,6 +98,22 @@ TEST_F(FeedSource, WhatAClientWouldNotFetchIsRefused)
     EXPECT_NE(ReadBad(QStringLiteral("-")).find("<stdin>: the feed is larger"), std::string::npos);
     EXPECT_EQ(ReadBad(QStringLiteral("/nowhere/appcast.xml")).find("/nowhere/appcast.xml: "), 0u);
     EXPECT_EQ(ReadBad(Write("<rss/>"), QStringLiteral("appcast.xml")).find("--published-at: \"appcast.xml\""), 0u);
+}
+
+TEST_F(FeedSource, FolderThatMayNotBeEnteredDoesNotMakeTheFeedMissing)
+{
+    constexpr unsigned NOBODY = 65534;
+    QString const path = Write("<rss/>");
+    QByteArray const folder = QFile::encodeName(QFileInfo(path).path());
+    ASSERT_EQ(::chmod(folder.constData(), 0), 0);
+    // The administrator may enter every folder, so the run uses another user.
+    bool const isAdministrator = ::geteuid() == 0;
+    ASSERT_TRUE(!isAdministrator || ::seteuid(NOBODY) == 0);
+    std::string const told = ReadBad(path);
+    ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
+    ASSERT_EQ(::chmod(folder.constData(), 0700), 0);
+    EXPECT_EQ(told,
+              path.toStdString() + ": cannot be read: Permission denied; check the name and the file's permissions");
 }
 
 TEST_F(FeedSource, MissingFeedSaysWhatToDo)

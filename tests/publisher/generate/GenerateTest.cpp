@@ -240,7 +240,8 @@ TEST(Generate, EverythingThatIsIgnoredIsListed)
     EXPECT_NE(run.out.find("old/"), std::string::npos) << run.out;
     folder.Remove("Test-1.0.zip");
     folder.Remove("appcast.xml");
-    EXPECT_NE(folder.Generate().err.find(": contains no archive, only Test-1.1.7z"), std::string::npos);
+    EXPECT_NE(folder.Generate().err.find(": contains no archive, only Test-1.1.7z, Test-\xEF\xBF\xBD.zip, old/; "),
+              std::string::npos);
 }
 
 TEST(Generate, FilesThatAWebServerMayNotReadAreTold)

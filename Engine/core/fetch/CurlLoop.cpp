@@ -184,12 +184,12 @@ bool CurlLoop::Add(CURL* transfer, std::function<void(CURLcode)> done)
     return true;
 }
 
-void CurlLoop::Remove(CURL* transfer)
+bool CurlLoop::Remove(CURL* transfer)
 {
     auto const running = m_running.find(transfer);
     if (running == m_running.end())
     {
-        return;
+        return false;
     }
     m_running.erase(running);
     // A transfer that still runs may wait on a dead connection. libcurl would keep one of HTTP/2 for the next request.
@@ -199,6 +199,7 @@ void CurlLoop::Remove(CURL* transfer)
     {
         m_idleTimer.start(IDLE_TIME);
     }
+    return true;
 }
 
 int CurlLoop::SocketOf(CURL* transfer) const

@@ -46,9 +46,9 @@ public:
     /// Runs \a transfer and calls \a done once, from the event loop. Returns false if libcurl does not accept the
     /// transfer.
     [[nodiscard]] bool Add(CURL* transfer, std::function<void(CURLcode)> done);
-    /// Ends \a transfer if it still runs. Its maker may destroy it afterwards. Not to be called by one of its
-    /// callbacks.
-    void Remove(CURL* transfer);
+    /// Ends \a transfer and its connection if it still runs; returns false if it does not. Its maker may destroy it
+    /// afterwards. Not to be called by one of its callbacks.
+    bool Remove(CURL* transfer);
     /// A transfer's callback calls this: bytes have arrived, and more may be available immediately.
     void NoteBytes() { m_hasBytes = true; }
     /// The bytes that arrived on the connection of \a transfer since it was made.

@@ -365,12 +365,26 @@ void HttpTransfer::SampleRate()
     qint64 const inWindow = m_received - m_receivedAtSample.front();
     bool const hasStopped = m_received == m_receivedAtSample[SAMPLES_IN_WINDOW / 2];
     m_receivedAtSample.pop_front();
-    if (inWindow * 1000 < m_limits.minBytesPerSecond * m_limits.rateWindow.count())
+    if (inWindow * 1000 >= m_limits.minBytesPerSecond * m_limits.rateWindow.count())
     {
-        // A body that stops completely is the only sign that a network has forgotten the connection.
-        bool const isForgotten = m_stage == TransferStage::Body && hasStopped;
-        Fail(MakeError(isForgotten ? ErrorCause::IncompleteBody : ErrorCause::TooSlow));
+        return;
     }
+    if (!m_isRepeated && IsUnanswered() && m_loop->Remove(m_curl->Handle()))
+    {
+        m_isRepeated = true;
+        m_rateTimer.stop();
+        m_stage = TransferStage::Connecting;
+        Open();
+        return;
+    }
+    // A body that stops completely is the only sign that a network has forgotten the connection.
+    bool const isForgotten = m_stage == TransferStage::Body && hasStopped;
+    Fail(MakeError(isForgotten ? ErrorCause::IncompleteBody : ErrorCause::TooSlow));
+}
+
+bool HttpTransfer::IsUnanswered() const
+{
+    return m_received == 0 && m_curl->Number(CURLINFO_NUM_CONNECTS) == 0;
 }
 
 void HttpTransfer::Close()

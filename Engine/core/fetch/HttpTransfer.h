@@ -75,6 +75,8 @@ private:
     void TakeWhole();
     EngineError ErrorAt(CURLcode code) const;
     void SampleRate();
+    /// True if the request was sent over a kept connection and no byte has come.
+    [[nodiscard]] bool IsUnanswered() const;
     /// True if the overhead of the connection is much larger than the answer.
     [[nodiscard]] bool IsMostlyFraming() const;
     void Close();
@@ -100,8 +102,9 @@ private:
     std::optional<ErrorCause> m_refusal;
     std::optional<CURLcode> m_end; ///< set when only held bytes remain
     bool m_isBodyUseless = false;
-    bool m_isSurplus = false; ///< bytes arrived after the answer's end
-    bool m_isHeld = false;    ///< by a sink without space
+    bool m_isSurplus = false;  ///< bytes arrived after the answer's end
+    bool m_isHeld = false;     ///< by a sink without space
+    bool m_isRepeated = false; ///< the request, because nothing came over a kept connection
     bool m_isClosed = false;
     QTimer m_connectTimer;
     QTimer m_rateTimer;

@@ -91,8 +91,8 @@ void CheckClock(QString const& name, Engine::FeedContent const& content, FeedSer
     if (signedAt == 0 && before > 0 && now > before + A_YEAR)
     {
         console.Warn({name,
-                      u"has no item between %1 and %2, where this computer's clock is"_s.arg(MomentText(before),
-                                                                                             MomentText(now)),
+                      u"has no item between %1 and %2, the time on this computer's clock"_s.arg(MomentText(before),
+                                                                                                MomentText(now)),
                       u"check the clock before you upload the feed: clients that get it refuse every lower serial from "
                       "then on; if the clock is ahead, set it, put the previous feed back, and sign that"_s});
     }

@@ -253,7 +253,7 @@ private:
         std::vector<FolderArchive> fresh = published.FindNew(archives, refusals);
         if (m_request.isRecompressed)
         {
-            RemoveRecompressed(m_workplace, fresh);
+            RemoveRecompressed(m_workplace, fresh, refusals);
         }
         bool const hasNewVersion =
             std::any_of(fresh.begin(), fresh.end(),

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <optional>
 
 namespace Pelnar::Publisher
 {
@@ -20,18 +21,35 @@ bool IsSame(BundleTree const& a, BundleTree const& b)
     return a.Name() == b.Name() && a.Digest() == b.Digest();
 }
 
-/// True for two archives of one bundle for Linux. Others are reported when they are published.
-bool HaveSameBundle(Workplace const& place, QString const& a, QString const& b)
+/// Runs \a work with a file that --recompress makes. A refusal also says so.
+void AsDispensable(std::function<void()> const& work)
+{
+    try
+    {
+        work();
+    }
+    catch (Refusal const& refusal)
+    {
+        std::vector<Problem> problems = refusal.Reasons();
+        for (Problem& problem : problems)
+        {
+            problem.mend += u", or remove it: --recompress makes it again"_s;
+        }
+        throw Refusal(problems, refusal.Cause());
+    }
+}
+
+/// True if \a archive contains a bundle for Linux, and \a packed the same one. If only \a packed cannot be read, it is
+/// added to \a refusals, and the result is true. Others are reported when they are published.
+bool HaveSameBundle(Workplace const& place, QString const& archive, QString const& packed, RefusalList& refusals)
 {
     RefusalList passedOver;
-    bool isSame = false;
-    static_cast<void>(passedOver.Try(
-        [&]
-        {
-            std::shared_ptr<BundleTree const> const first = place.Unpack(a);
-            isSame = first->Platform() == Engine::FeedPlatform::Linux && IsSame(*first, *place.Unpack(b));
-        }));
-    return isSame;
+    std::shared_ptr<BundleTree const> first;
+    std::shared_ptr<BundleTree const> second;
+    bool const isForLinux =
+        passedOver.Try([&] { first = place.Unpack(archive); }) && first->Platform() == Engine::FeedPlatform::Linux;
+    bool const isRead = isForLinux && refusals.Try([&] { AsDispensable([&] { second = place.Unpack(packed); }); });
+    return isForLinux && (!isRead || IsSame(*first, *second));
 }
 
 } // namespace
@@ -41,7 +59,7 @@ bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes)
     return bytes <= archiveBytes && archiveBytes - bytes >= (archiveBytes + 9) / 10;
 }
 
-void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh)
+void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh, RefusalList& refusals)
 {
     auto const isMade = [&](FolderArchive const& archive)
     {
@@ -50,7 +68,7 @@ void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fres
                            {
                                return other.kind == ArchiveKind::Bundle && other.fileName != archive.fileName &&
                                       other.stem + QLatin1String(ENDING) == archive.fileName &&
-                                      HaveSameBundle(place, other.fileName, archive.fileName);
+                                      HaveSameBundle(place, other.fileName, archive.fileName, refusals);
                            });
     };
     std::vector<FolderArchive> rest;
@@ -74,13 +92,20 @@ void RecompressStage::AddTo(std::vector<NewItem>& items)
         {
             Pack(item, fileName);
         }
-        else if (!Take(item, fileName, m_workplace.Open(fileName)))
+        else if (!TakeExisting(item, fileName))
         {
             throw Refusal({m_workplace.PathOf(fileName), u"saves less than a tenth of %1"_s.arg(item.fileName),
                            u"remove it, or leave out --recompress"_s},
                           RefusalCause::Content);
         }
     }
+}
+
+bool RecompressStage::TakeExisting(NewItem& item, QString const& fileName) const
+{
+    std::optional<InputFile> file;
+    AsDispensable([&] { file = m_workplace.Open(fileName); });
+    return Take(item, fileName, *file);
 }
 
 void RecompressStage::Pack(NewItem& item, QString const& fileName)

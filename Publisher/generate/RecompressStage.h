@@ -2,6 +2,7 @@
 // Ownership: refers to the workplace and the archives, which outlive it.
 #pragma once
 
+#include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/generate/Workplace.h"
 
@@ -15,8 +16,8 @@ namespace Pelnar::Publisher
 [[nodiscard]] bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes);
 
 /// Removes from \a fresh, the archives that are not published, each one that RecompressStage would make from another
-/// one there. An interrupted run may have left it.
-void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh);
+/// one there. An interrupted run may have left it. One that cannot be read is added to \a refusals.
+void RemoveRecompressed(Workplace const& place, std::vector<FolderArchive>& fresh, RefusalList& refusals);
 
 class RecompressStage
 {
@@ -37,6 +38,8 @@ public:
 
 private:
     void Pack(NewItem& item, QString const& fileName);
+    /// The same as Take for a file of the folder.
+    [[nodiscard]] bool TakeExisting(NewItem& item, QString const& fileName) const;
     /// Adds \a archive, which must contain the bundle of \a item. Returns false if it saves too little.
     [[nodiscard]] bool Take(NewItem& item, QString const& fileName, InputFile const& archive) const;
 

@@ -256,6 +256,27 @@ TEST_F(Recompress, FileThatAnEndedRunHasLeftIsTaken)
         << run.err;
 }
 
+TEST_F(Recompress, FileThatCannotBeReadIsNamedAsDispensable)
+{
+    PutZip(folder, "2.0");
+    std::string const path = folder.PathOf("Test-2.0.tar.zst").toStdString();
+    std::string const mend = ", or remove it: --recompress makes it again\n";
+    folder.Put("Test-2.0.tar.zst", "cut");
+    ToolRun run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "error: " + path +
+                           ": is not a zip, or a tar compressed with gzip, bzip2, xz or zstd; pack it again with zip "
+                           "or tar" +
+                           mend);
+    folder.Remove("Test-2.0.tar.zst");
+    std::filesystem::create_directory(path);
+    run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "error: " + path + ": is not a plain file; give a plain file, or a link to one" + mend);
+    std::filesystem::remove(path);
+    EXPECT_EQ(folder.Generate(RECOMPRESS).status, 0);
+}
+
 TEST_F(Recompress, ArchivesOfTwoSystemsMayHaveOneName)
 {
     BundleText text;

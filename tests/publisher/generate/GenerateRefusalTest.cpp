@@ -16,8 +16,6 @@ namespace Pelnar::Testing
 namespace
 {
 
-constexpr uid_t NOBODY = 65534;
-
 struct RefusalRow
 {
     char const* name;
@@ -288,15 +286,7 @@ TEST(GenerateRefusal, NotesThatMayNotBeRead)
     folder.PutVersion("2.0");
     folder.Put("Test-2.0.txt", "notes");
     ASSERT_EQ(::chmod(folder.PathOf("Test-2.0.txt").toStdString().c_str(), 0), 0);
-    // The administrator may read every file, so the run uses another user.
-    bool const isAdministrator = ::geteuid() == 0;
-    if (isAdministrator)
-    {
-        folder.GiveTo(NOBODY);
-        ASSERT_EQ(::seteuid(NOBODY), 0);
-    }
-    ToolRun const run = folder.Generate();
-    ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
+    ToolRun const run = folder.GenerateAsOrdinaryUser();
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.err.find("Test-2.0.txt: cannot be read: Permission denied"), std::string::npos) << run.err;
 }
@@ -309,14 +299,7 @@ TEST(GenerateRefusal, PublishedArchiveThatMayNotBeReadIsToldOnce)
     folder.PutVersion("2.0");
     std::string const archive = folder.PathOf("Test-1.0.zip").toStdString();
     ASSERT_EQ(::chmod(archive.c_str(), 0), 0);
-    bool const isAdministrator = ::geteuid() == 0;
-    if (isAdministrator)
-    {
-        folder.GiveTo(NOBODY);
-        ASSERT_EQ(::seteuid(NOBODY), 0);
-    }
-    ToolRun const run = folder.Generate();
-    ASSERT_TRUE(!isAdministrator || ::seteuid(0) == 0);
+    ToolRun const run = folder.GenerateAsOrdinaryUser();
     EXPECT_EQ(run.err,
               "error: " + archive + ": cannot be read: Permission denied; check the name and the file's permissions\n");
 }

@@ -159,6 +159,21 @@ ToolRun PublisherFolder::Generate(QStringList const& more) const
                    more);
 }
 
+ToolRun PublisherFolder::GenerateAsOrdinaryUser() const
+{
+    constexpr unsigned NOBODY = 65534;
+    if (::geteuid() != 0)
+    {
+        return Generate();
+    }
+    GiveTo(NOBODY);
+    EXPECT_EQ(::seteuid(NOBODY), 0);
+    ToolRun const run = Generate();
+    EXPECT_EQ(::seteuid(0), 0);
+    GiveTo(0);
+    return run;
+}
+
 ToolRun PublisherFolder::GenerateWithKey(char seed, QStringList const& more) const
 {
     std::string const path = m_private.Path() + "/other-key";

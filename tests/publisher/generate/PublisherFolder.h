@@ -59,14 +59,14 @@ public:
     /// Adds that bundle as the zip "Test-VERSION.zip".
     void PutBundle(BundleText const& text) const;
     void Remove(std::string const& name) const;
-    /// Gives all files, including the key, to \a user.
-    void GiveTo(unsigned user) const;
     std::string ContentOf(std::string const& name) const;
     std::vector<std::string> Names() const { return m_folder.Names(); }
     std::string Path() const { return m_folder.Path(); }
     QString KeyFile() const { return QString::fromStdString(m_private.Path() + "/key"); }
 
     ToolRun Generate(QStringList const& more = {}) const;
+    /// As a user who has the files but is not the administrator, who may read every file.
+    ToolRun GenerateAsOrdinaryUser() const;
     /// Signs with the key of \a seed instead.
     ToolRun GenerateWithKey(char seed, QStringList const& more = {}) const;
     /// Runs it and expects success. Returns the feed.
@@ -76,6 +76,9 @@ public:
     KeyPair const& Keys() const { return m_pair; }
 
 private:
+    /// Gives all files, including the key, to \a user.
+    void GiveTo(unsigned user) const;
+
     Workspace m_folder;
     Workspace m_private;
     KeyPair m_pair;

@@ -161,13 +161,13 @@ TEST(Delta, TreeWithoutEvilIsMadeByTheSameForge)
     EXPECT_TRUE(prepared->digest == TreeOf(fresh.Path() + '/' + APP));
 }
 
-struct KeptFileRow
+struct ChangeRow
 {
     char const* name;
     void (*change)(std::string const& path);
 };
 
-class KeptFileThatChanges : public testing::TestWithParam<KeptFileRow>
+class KeptFileThatChanges : public testing::TestWithParam<ChangeRow>
 {
 };
 
@@ -201,32 +201,69 @@ TEST_P(KeptFileThatChanges, BetweenCheckAndUseIsRefused)
     EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
 }
 
+class SmallFileThatChanges : public testing::TestWithParam<ChangeRow>
+{
+};
+
+/// The old version of a changed file is opened, its size is checked, and then it is read.
+TEST_P(SmallFileThatChanges, BeforeItIsReadIsRefused)
+{
+    constexpr std::uint64_t BLOB_BYTES = 20000;
+    UpdateScene scene(DeltaToTheNextVersion());
+    std::string const path = AppIn(WithBase(scene)) + "/Resources/blob";
+    ASSERT_EQ(std::filesystem::file_size(path), BLOB_BYTES);
+    bool isChanged = false;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        if (!isChanged && stop.call == SYS_pread64 && stop.arguments[2] == BLOB_BYTES)
+        {
+            GetParam().change(path);
+            isChanged = true;
+        }
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = scene.Prepare(DeltaJob(scene), start);
+    EXPECT_TRUE(isChanged);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::DeltaBaseDiffers);
+    EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+    EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, SmallFileThatChanges,
+    testing::Values(ChangeRow{"OtherBytes", [](std::string const& path)
+                              { std::ofstream(path, std::ios::in | std::ios::out).seekp(100) << "edited"; }},
+                    ChangeRow{"Shorter", [](std::string const& path) { std::filesystem::resize_file(path, 19999); }},
+                    ChangeRow{"Empty", [](std::string const& path) { std::filesystem::resize_file(path, 0); }}),
+    [](testing::TestParamInfo<ChangeRow> const& info) { return info.param.name; });
+
 INSTANTIATE_TEST_SUITE_P(
     Rows, KeptFileThatChanges,
-    testing::Values(KeptFileRow{"OtherBytes", [](std::string const& path)
-                                { std::ofstream(path, std::ios::in | std::ios::out).seekp(100) << "edited"; }},
-                    KeptFileRow{"Longer", [](std::string const& path) { std::ofstream(path, std::ios::app) << "x"; }},
-                    KeptFileRow{"Shorter", [](std::string const& path) { std::filesystem::resize_file(path, 499); }},
-                    KeptFileRow{"Removed", [](std::string const& path) { std::filesystem::remove(path); }},
-                    KeptFileRow{"LinkToTheSameBytes",
-                                [](std::string const& path)
-                                {
-                                    std::filesystem::rename(path, path + "-away");
-                                    std::filesystem::create_symlink("same-away", path);
-                                }},
-                    KeptFileRow{"Fifo",
-                                [](std::string const& path)
-                                {
-                                    std::filesystem::remove(path);
-                                    EXPECT_EQ(::mkfifo(path.c_str(), 0644), 0);
-                                }},
-                    KeptFileRow{"Folder",
-                                [](std::string const& path)
-                                {
-                                    std::filesystem::remove(path);
-                                    std::filesystem::create_directory(path);
-                                }}),
-    [](testing::TestParamInfo<KeptFileRow> const& info) { return info.param.name; });
+    testing::Values(ChangeRow{"OtherBytes", [](std::string const& path)
+                              { std::ofstream(path, std::ios::in | std::ios::out).seekp(100) << "edited"; }},
+                    ChangeRow{"Longer", [](std::string const& path) { std::ofstream(path, std::ios::app) << "x"; }},
+                    ChangeRow{"Shorter", [](std::string const& path) { std::filesystem::resize_file(path, 499); }},
+                    ChangeRow{"Removed", [](std::string const& path) { std::filesystem::remove(path); }},
+                    ChangeRow{"LinkToTheSameBytes",
+                              [](std::string const& path)
+                              {
+                                  std::filesystem::rename(path, path + "-away");
+                                  std::filesystem::create_symlink("same-away", path);
+                              }},
+                    ChangeRow{"Fifo",
+                              [](std::string const& path)
+                              {
+                                  std::filesystem::remove(path);
+                                  EXPECT_EQ(::mkfifo(path.c_str(), 0644), 0);
+                              }},
+                    ChangeRow{"Folder",
+                              [](std::string const& path)
+                              {
+                                  std::filesystem::remove(path);
+                                  std::filesystem::create_directory(path);
+                              }}),
+    [](testing::TestParamInfo<ChangeRow> const& info) { return info.param.name; });
 
 TEST(Delta, KeptFileThatGrowsWhileItIsCopiedIsNotCopiedForever)
 {
